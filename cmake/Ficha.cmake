@@ -1,0 +1,79 @@
+# How the library is put together: one object library per floor, so that each floor builds and is
+# tested without those above it, and one shared library of them all.
+
+add_library(ficha_opcoes INTERFACE)
+target_compile_options(ficha_opcoes INTERFACE
+    -Wall -Wextra -Werror -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
+    -Wunused -Wnull-dereference -Wno-error=null-dereference -Wno-null-dereference)
+target_compile_definitions(ficha_opcoes INTERFACE
+    QT_NO_KEYWORDS QT_NO_FOREACH)
+target_include_directories(ficha_opcoes INTERFACE "${CMAKE_SOURCE_DIR}/src")
+target_link_libraries(ficha_opcoes INTERFACE Qt6::Core Qt6::Gui Qt6::Widgets Qt6::Svg Qt6::UiTools)
+if(FICHA_SANITIZERS)
+    target_compile_options(ficha_opcoes INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-sanitize=vptr
+        -fno-omit-frame-pointer)
+    target_link_options(ficha_opcoes INTERFACE -fsanitize=address,undefined -fno-sanitize=vptr)
+endif()
+
+# Layouts and pictures, one resource library for all floors.
+file(GLOB FICHA_LAYOUTS CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/layouts/*.ui"
+     "${CMAKE_SOURCE_DIR}/src/layouts/pictures/*.svg" "${CMAKE_SOURCE_DIR}/src/layouts/pictures/*.png")
+add_library(ficha_layouts OBJECT)
+if(FICHA_LAYOUTS)
+    qt_add_resources(ficha_layouts ficha_layouts PREFIX "/ficha"
+                     BASE "${CMAKE_SOURCE_DIR}/src" FILES ${FICHA_LAYOUTS})
+else()
+    file(WRITE "${CMAKE_BINARY_DIR}/ficha_sem_layouts.cpp" "")
+    target_sources(ficha_layouts PRIVATE "${CMAKE_BINARY_DIR}/ficha_sem_layouts.cpp")
+endif()
+target_link_libraries(ficha_layouts PRIVATE Qt6::Core)
+
+set(FICHA_ANDARES "" CACHE INTERNAL "")
+
+# ficha_andar(name folder USA floor...): the object library ficha_<name> of a floor.
+function(ficha_andar nome pasta)
+    cmake_parse_arguments(PARSE_ARGV 2 A "" "" "USA")
+    file(GLOB fontes CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/${pasta}/*.cpp"
+         "${CMAKE_SOURCE_DIR}/${pasta}/*.h")
+    if(NOT fontes MATCHES "\\.cpp")
+        file(WRITE "${CMAKE_BINARY_DIR}/ficha_${nome}_vazio.cpp" "")
+        list(APPEND fontes "${CMAKE_BINARY_DIR}/ficha_${nome}_vazio.cpp")
+    endif()
+    add_library(ficha_${nome} OBJECT ${fontes})
+    target_link_libraries(ficha_${nome} PUBLIC ficha_opcoes)
+    target_precompile_headers(ficha_${nome} PRIVATE <QWidget> <QString> <functional> <memory> <vector>)
+    if(nome STREQUAL "database")
+        target_include_directories(ficha_database SYSTEM PRIVATE "${FIREBIRD_INCLUDE}")
+    endif()
+    set_property(GLOBAL PROPERTY FICHA_USA_${nome} "${A_USA}")
+    set_property(GLOBAL APPEND PROPERTY FICHA_TODOS_OS_ANDARES ${nome})
+endfunction()
+
+# Links a program with the objects of some floors and of everything those stand on.
+function(ficha_ligar alvo)
+    set(todos "")
+    foreach(andar IN LISTS ARGN)
+        get_property(usa GLOBAL PROPERTY FICHA_USA_${andar})
+        list(APPEND todos ${usa} ${andar})
+    endforeach()
+    list(REMOVE_DUPLICATES todos)
+    foreach(andar IN LISTS todos)
+        target_link_libraries(${alvo} PRIVATE ficha_${andar})
+    endforeach()
+    target_link_libraries(${alvo} PRIVATE ficha_opcoes ficha_layouts "${FIREBIRD_CLIENT}")
+    if(FICHA_LAYOUTS)
+        target_link_libraries(${alvo} PRIVATE ficha_layouts_resources_1)
+    endif()
+endfunction()
+
+# The library itself, target ficha::ficha.
+function(ficha_biblioteca)
+    get_property(andares GLOBAL PROPERTY FICHA_TODOS_OS_ANDARES)
+    file(WRITE "${CMAKE_BINARY_DIR}/ficha_biblioteca.cpp" "")
+    add_library(ficha SHARED "${CMAKE_BINARY_DIR}/ficha_biblioteca.cpp")
+    ficha_ligar(ficha ${andares})
+    target_include_directories(ficha PUBLIC "${CMAKE_SOURCE_DIR}/src")
+    target_link_libraries(ficha PUBLIC Qt6::Core Qt6::Gui Qt6::Widgets Qt6::Svg Qt6::UiTools)
+    add_library(ficha::ficha ALIAS ficha)
+endfunction()

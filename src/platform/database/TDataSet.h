@@ -1,0 +1,93 @@
+#pragma once
+
+#include "platform/database/TField.h"
+
+#include <QObject>
+
+#include <memory>
+#include <vector>
+
+namespace ficha
+{
+
+/**
+ * Rows with a current one. Positioning is O(1) and announces nothing by itself beyond
+ * AfterScroll; RecordCount is exact as soon as the dataset is open.
+ *
+ * Row numbers run from 1; RecNo() is 0 when there is no row. A closed dataset has no rows and
+ * answers every question as an empty one does.
+ */
+class TDataSet : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TDataSet(QObject *owner = nullptr);
+    ~TDataSet() override;
+
+    /** Opens a closed dataset and stands on its first row; an open one is left alone. */
+    void Open();
+    /** Forgets the rows; the fields stay. */
+    void Close();
+    bool Active() const { return aberto; }
+
+    int RecordCount() const;
+    bool IsEmpty() const { return RecordCount() == 0; }
+    int RecNo() const { return recNo; }
+    void First();
+    void Last();
+    void Next();
+    void Prior();
+    /** Moves by n rows, stopping at either end; answers the rows really moved, with their sign. */
+    int MoveBy(int n);
+    /** The last move tried to go past the last row, or there is no row. */
+    bool Eof() const { return eof; }
+    bool Bof() const { return bof; }
+
+    int FieldCount() const { return int(abertos.size()); }
+    /** The i-th column of the open dataset, from 0. */
+    TField *Fields(int i) const;
+    /** By name, letter case ignored; null when there is none. */
+    TField *FindField(const QString &nome) const;
+    /** By name; EDatabaseError naming the field when there is none. */
+    TField *FieldByName(const QString &nome) const;
+
+signals:
+    void AfterOpen();
+    void AfterClose();
+    /** The current row changed. */
+    void AfterScroll();
+
+protected:
+    struct TColuna {
+        QString nome;
+        TFieldType tipo = TFieldType::ftUnknown;
+        int tamanho = 0;
+        int escala = 0;
+    };
+
+    /** Reads the rows. Raises EDatabaseError and leaves the dataset closed. */
+    virtual void AbrirLinhas() = 0;
+    virtual void FecharLinhas() = 0;
+    virtual int ContarLinhas() const = 0;
+    /** Row from 0, column from 0, both in range. */
+    virtual bool CelulaNula(int linha, int coluna) const = 0;
+    virtual Variant CelulaValor(int linha, int coluna) const = 0;
+    virtual QString CelulaTexto(int linha, int coluna) const;
+    /** Matches the columns to the fields by name; keeps the fields of columns that are gone, which
+     * then raise EDatabaseError when they are read. */
+    void DefinirColunas(const std::vector<TColuna> &colunas);
+
+private:
+    friend class TField;
+    void IrPara(int linha);
+
+    std::vector<std::unique_ptr<TField>> campos; /**< every field ever made, owned */
+    std::vector<TField *> abertos;               /**< the open columns in their order */
+    int recNo = 0;
+    bool aberto = false;
+    bool eof = true;
+    bool bof = true;
+};
+
+} // namespace ficha

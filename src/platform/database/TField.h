@@ -1,0 +1,79 @@
+#pragma once
+
+#include "platform/core/Variant.h"
+
+#include <QString>
+
+namespace ficha
+{
+
+class TDataSet;
+
+/** Kinds of column. The record model tells the first four apart; all others are "other" to it. */
+enum class TFieldType {
+    ftString,   /**< char and varchar */
+    ftSmallint, /**< 16-bit integer without scale */
+    ftInteger,  /**< 32-bit integer without scale */
+    ftFloat,    /**< float, double, every scaled number, and 64-bit integers */
+    ftDate,
+    ftTime,
+    ftDateTime, /**< timestamp */
+    ftBoolean,
+    ftMemo,    /**< text blob */
+    ftBlob,    /**< binary blob */
+    ftUnknown, /**< not bound to a column yet */
+};
+
+/**
+ * One column of a dataset. It lives as long as its dataset and is matched to the columns by name
+ * at every opening, so that screens bind it once; the dataset owns it.
+ *
+ * Values are those of the dataset's current row; on an empty or closed dataset they are Null.
+ */
+class TField
+{
+public:
+    TField(TDataSet *dataset, QString nome) : dataSet(dataset), fieldName(std::move(nome)) {}
+    TField(const TField &) = delete;
+    TField &operator=(const TField &) = delete;
+
+    /** As the database has it (upper case unless quoted). */
+    const QString &FieldName() const { return fieldName; }
+    /** What users read; the field's name until a screen sets it. */
+    QString DisplayLabel() const { return displayLabel.isNull() ? fieldName : displayLabel; }
+    void SetDisplayLabel(QString texto) { displayLabel = std::move(texto); }
+    /** Number pattern for lists ("###,###,##0.00"); empty when there is none. */
+    const QString &DisplayFormat() const { return displayFormat; }
+    void SetDisplayFormat(QString formato) { displayFormat = std::move(formato); }
+    TFieldType DataType() const { return tipo; }
+    /** Longest text in characters for string columns, else 0. */
+    int Size() const { return tamanho; }
+    /** Decimal places of a scaled number, else 0. */
+    int Escala() const { return escala; }
+    TDataSet *DataSet() const { return dataSet; }
+
+    bool IsNull() const;
+    /** Null, or the natural type: text, 32-bit integer, double, date-time; booleans are the
+     * integers 0 and 1; a 64-bit integer is a double. A text column keeps its blanks. */
+    Variant Value() const;
+    /** The value as text, empty for Null; numbers with a comma, dates dd/mm/yyyy. */
+    QString AsString() const;
+    /** 0 for Null. */
+    int AsInteger() const;
+    double AsFloat() const;
+    TDateTime AsDateTime() const;
+
+private:
+    friend class TDataSet;
+
+    TDataSet *dataSet;
+    QString fieldName;
+    QString displayLabel;
+    QString displayFormat;
+    TFieldType tipo = TFieldType::ftUnknown;
+    int tamanho = 0;
+    int escala = 0;
+    int coluna = -1; /**< index among the open columns, -1 when not matched */
+};
+
+} // namespace ficha

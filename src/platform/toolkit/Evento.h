@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/core/Servicos.h"
+
+#include <QObject>
+
+#include <utility>
+
+namespace ficha
+{
+
+/**
+ * Runs f where an error must not cross the toolkit's own code: what f raises goes to the host's
+ * error report and the program goes on. Answers whether f ended without an error.
+ */
+template <typename F>
+bool Protegido(F &&f) noexcept
+{
+    try {
+        std::forward<F>(f)();
+        return true;
+    } catch (...) {
+        ReportarErro(std::current_exception());
+        return false;
+    }
+}
+
+/** Connects a signal to a handler that runs Protegido; it lives as long as both objects do. */
+template <typename TEmissor, typename TSinal, typename F>
+QMetaObject::Connection Ligar(const TEmissor *de, TSinal sinal, const QObject *contexto, F handler)
+{
+    return QObject::connect(de, sinal, contexto,
+                            [handler = std::move(handler)](auto &&...args) mutable {
+                                Protegido([&] {
+                                    if constexpr (std::is_invocable_v<F, decltype(args)...>)
+                                        handler(std::forward<decltype(args)>(args)...);
+                                    else
+                                        handler();
+                                });
+                            });
+}
+
+} // namespace ficha
