@@ -1,0 +1,154 @@
+#include "records/UCampo.h"
+
+#include "base/UControlBasFr.h"
+#include "platform/support/BancoApoio.h"
+#include "platform/support/Textos.h"
+
+namespace ficha
+{
+
+namespace
+{
+constexpr int CodigoDoBranco = 32;
+}
+
+TCampo::TCampo()
+    : ColInfo(std::make_unique<TColInfo>()), FormatoFloat(QStringLiteral("########0.00"))
+{
+}
+
+bool TCampo::ColunaTexto() const
+{
+    return Field && FieldIsString(Field);
+}
+
+bool TCampo::ColunaNumero() const
+{
+    if (!Field)
+        return false;
+    const TFieldType tipo = Field->DataType();
+    return tipo == TFieldType::ftSmallint || tipo == TFieldType::ftInteger ||
+           tipo == TFieldType::ftFloat;
+}
+
+void TCampo::SetValor(const Variant &v)
+{
+    if (v == Valor)
+        return;
+    if (ColunaTexto())
+        Valor = v.AsString().trimmed();
+    else
+        Valor = v;
+}
+
+bool TCampo::IsNull() const
+{
+    if (ColunaTexto())
+        return Valor == Variant(QString());
+    return ColunaNumero() && Valor == Variant(0);
+}
+
+int TCampo::AsInteger() const
+{
+    if (ColunaTexto())
+        return StrToIntStr(Valor.AsString()).toInt();
+    return ColunaNumero() ? Valor.AsInteger() : 0;
+}
+
+QString TCampo::AsString() const
+{
+    if (EhLista()) {
+        if (Valor.EhNulo() || Valor.EhNaoAtribuido())
+            return {};
+        const bool dentro = Valor > Variant(-1) && Valor < Variant(Lista->Count());
+        return dentro ? Lista->Texto(Valor.AsInteger()) : QString();
+    }
+    if (OnAsString) {
+        QString texto;
+        OnAsString(const_cast<TCampo *>(this), texto);
+        return texto;
+    }
+    return TextoPeloTipo();
+}
+
+QString TCampo::TextoPeloTipo() const
+{
+    switch (Tipo) {
+    case 0:
+        return Valor.AsString().trimmed();
+    case 1:
+        return Valor.EhNulo() || Valor.EhNaoAtribuido() ? QString()
+                                                        : Valor.AsDateTime().TextoData();
+    case 4:
+        return FormatFloat(FormatoFloat, Field ? Field->AsFloat() : 0);
+    case 5:
+        return TextoDoCaractere();
+    case 6:
+        return TextoDoNumero();
+    default:
+        return {};
+    }
+}
+
+QString TCampo::TextoDoCaractere() const
+{
+    const QString texto = Valor.AsString();
+    const QChar codigo = texto.isEmpty() ? QChar(u' ') : texto.front();
+    const int i = ListaChar ? ListaChar->IndexOfObjeto(codigo.unicode()) : -1;
+    return i < 0 ? QString() : ListaChar->Texto(i);
+}
+
+QString TCampo::TextoDoNumero() const
+{
+    if (Field && !Field->DisplayFormat().isEmpty())
+        return FormatFloat(Field->DisplayFormat(), Valor.AsFloat());
+    return QString::number(Valor.AsInteger());
+}
+
+void TCampo::PegarValor()
+{
+    if (!Field)
+        return;
+    SetValor(Field->Value());
+    if (TemEstrangeiro && FieldEstrangeiro)
+        TextoEstrangeiro = FieldEstrangeiro->AsString();
+}
+
+void TCampo::PreencherControl()
+{
+    if (!ControlInfo)
+        return;
+    ControlInfo->SetValor(Valor);
+    if (TControlBasFr *frame = ControlInfo->Frame())
+        frame->Atualizar();
+}
+
+void TCampo::Undo()
+{
+    PreencherControl();
+}
+
+bool TCampo::CanUndo() const
+{
+    const TControlBasFr *frame = ControlInfo ? ControlInfo->Frame() : nullptr;
+    if (!frame || !frame->PodeDesfazer())
+        return false;
+    const QString guardado = Valor.AsString();
+    return guardado.isEmpty() || guardado != frame->GetValor().AsString();
+}
+
+void TCampo::Zerar()
+{
+    if (EhLista()) {
+        SetValor(CodigoDoBranco);
+        return;
+    }
+    if (ColunaTexto())
+        SetValor(QString());
+    else if (ColunaNumero())
+        SetValor(0);
+    if (TemValorPadrao)
+        SetValor(ValorPadrao);
+}
+
+} // namespace ficha

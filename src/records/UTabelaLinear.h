@@ -1,0 +1,110 @@
+#pragma once
+
+#include "records/UTabela.h"
+
+namespace ficha
+{
+
+class TStringGrid;
+
+/**
+ * The table of a maintenance screen: rows walked by a number from 1, a primary key made of the
+ * leading key fields, edits protected by a record lock held in the database.
+ *
+ * The lock is taken by GarantiaRegistro and released when the alteration or deletion ends, at the
+ * latest when the table is destroyed. Rows that are only walked over are never shown in the
+ * inputs, and only the fields that the walk asks for are read from them; the state after each
+ * operation is that of walking row by row.
+ */
+class TTabelaLinear : public TTabela
+{
+public:
+    explicit TTabelaLinear(TChave chave);
+    /** Releases the lock that is still held and unbinds the frames that still point here. */
+    ~TTabelaLinear() override;
+
+    void Create(TDataSet *dataset, const QString &nomeTabela) override;
+
+    /** Empties every bound input when the state really became inserting. */
+    void InsIni() override;
+    void AltIni() override;
+    void ExclIni() override;
+    void InsFim() override;
+    void AltFim() override;
+    void ExclFim() override;
+    /** Shows the current row again; empties the inputs when there is none. */
+    void InsCancel() override;
+    void AltCancel() override;
+    void ExclCancel() override;
+    /**
+     * Takes the lock of the current record, re-reads the dataset in either case and stands on the
+     * same record again (the first when it is gone). The inputs are not touched.
+     */
+    bool GarantiaRegistro() override;
+
+    /** Binding of columns, key fields first; the fields are owned by the table, columns and
+     * controls are not. Each answers the new field. */
+    TCampo *PegarCampo(TField *field);
+    TCampo *PegarCampo(TField *field, int largura);
+    TCampo *PegarCampoChave(TField *field);
+    TCampo *PegarCampo(TField *field, int largura, QWidget *control);
+    TCampo *PegarCampoChave(TField *field, int largura, QWidget *control);
+    TCampo *PegarCampoChaveEstrangeira(TField *field, TField *fieldDescricao, int largura,
+                                       QWidget *control);
+
+    /** " where key=value and ..." of the current record, values as AsString has them, unquoted;
+     * " where " alone without key fields. */
+    QString WhereStr() const;
+    /** The key of the current record as text, its fields joined by ";". */
+    QString ChavesGarantia() const;
+
+    void First();
+    void Last();
+    /** On the last row only Fim is set. */
+    void Next();
+    void Prior();
+    bool PodeFirst() const;
+    bool PodePrior() const;
+    bool PodeNext() const;
+    bool PodeLast() const;
+    bool PodeTabChange() const;
+    /** Makes row n current, clamped into the rows; -1 is the number of an empty dataset. */
+    void SetRecno(int n);
+    /** Moves the dataset's cursor only. */
+    void PosicionarDataSet(int n);
+    /** Extension point: always false here. */
+    bool Locate(const QString &texto);
+    /** Makes current the row whose key text is exactly this one, else the first row. */
+    void LocalizarPelaChave(const QString &chaves);
+    /** Fills a grid with the visible fields of all rows. A Null first field ends the filling. */
+    void PreencherStringGrid(TStringGrid *grid);
+    /** Fills a list with the text of field i of every row; AtualizarControles is left on. */
+    void PreencherStringList(TLinhas &lista, int i);
+    /** Gives the lock of a record back when this table holds it; else nothing. */
+    void LiberarRegistro(const QString &chaves);
+
+    /** Number of the current row, -1 when the dataset is empty. */
+    int RecNo = -1;
+    /** Rows found by the last PreencherStringGrid. */
+    int NLinhas = 0;
+    /** The walk has passed the last row. */
+    bool Fim = true;
+    /** Reserved. */
+    bool Reservado = false;
+    /** Show every change of the current row in the bound inputs. */
+    bool AtualizarControles = true;
+
+private:
+    TCampo *NovoCampo(TField *field, bool chave, int largura, bool visivel);
+    void LigarControl(TCampo *campo, QWidget *control);
+    int NRegistros() const;
+    QString TextoDaChave(bool relerCampos) const;
+    void PreencherTitulos(TStringGrid *grid) const;
+    void PreencherLinhas(TStringGrid *grid);
+    void LiberarTrava();
+
+    QString chaveTravada;
+    bool travado = false;
+};
+
+} // namespace ficha
