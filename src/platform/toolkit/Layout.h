@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 namespace ficha
 {
@@ -36,8 +37,9 @@ QStringList ClassesRegistradas();
     namespace                                                                                      \
     {                                                                                              \
     const bool registrada##Classe =                                                                \
-        (::ficha::RegistrarClasse(Classe::staticMetaObject,                                        \
-                                  [](QWidget *pai) { return ::ficha::TFabrica<Classe>::Nova(pai); }), \
+        (::ficha::RegistrarClasse(                                                                 \
+             Classe::staticMetaObject,                                                             \
+             [](QWidget *pai) { return ::ficha::TFabrica<Classe>::Nova(pai); }),                   \
          true);                                                                                    \
     }
 #define FICHA_REGISTRAR_WIDGET(Classe)                                                             \
@@ -49,6 +51,16 @@ QStringList ClassesRegistradas();
          true);                                                                                    \
     }
 
+/** Registers a class by name for checks only: layouts cannot place it. For abstract classes. */
+#define FICHA_REGISTRAR_ABSTRATA(Classe)                                                           \
+    namespace                                                                                      \
+    {                                                                                              \
+    const bool registrada##Classe =                                                                \
+        (::ficha::RegistrarClasse(Classe::staticMetaObject, {}), true);                            \
+    }
+/** The meta-object of a registered class or of one of Qt's widgets, by bare name; else null. */
+const QMetaObject *ClasseRegistrada(const QString &nome);
+
 /** Adds a resource folder (":/demo/layouts") in which layouts are looked for, before the
  * library's own ":/ficha/layouts". */
 void RegistrarPastaDeLayouts(const QString &pasta);
@@ -58,8 +70,21 @@ void RegistrarPastaDeLayouts(const QString &pasta);
  * one: for each class the file "<ClassName>.ui" where it exists.
  *
  * The widget itself is the root of every file; a name that an earlier file brought is that child,
- * whose properties the later file changes; every other name is made new. Each name, class and
- * property is checked against the meta-object before anything is built.
+ * whose properties the later file changes; every other name is made new. Known children are named
+ * flat under the root or inside the container that holds them. Each name, class and property is
+ * checked against the meta-object before anything is built; each class's files are read once per
+ * process.
+ *
+ * What the files may hold beyond Designer's widgets, properties, layouts and tab stops:
+ * - Any registered class. Inside the element of an inline frame, the frame's own children by name:
+ *   their properties are changed for this one frame.
+ * - <actiongroup name="ActionList1"> with <action name="..."> inside: a TActionList with its
+ *   TActions. An <action> straight under the root joins "ActionList1", made when missing.
+ * - A property that points to an object ("action" of a button) is given its name.
+ * - On every widget the dynamic properties "tag" (a number); "align" (alTop, alBottom, alLeft,
+ *   alRight, alClient: the control sticks to that side of what its container has left, the first
+ *   named outermost; see Alinhar) and "anchors" ("right", "bottom", "left right", ...: the control
+ *   keeps its distance to those sides when the container is resized from its design size).
  *
  * Raises ELayoutError naming the file and the line of the first fault.
  */
@@ -68,8 +93,24 @@ void CarregarLayouts(QWidget *raiz);
 /** The faults of one layout file for a class, each "file:line: text"; empty when it is sound. */
 QStringList VerificarLayout(const QString &arquivo, const QMetaObject &classe);
 
-/** A child by name and type; raises ELayoutError naming what is missing or of another type. */
+/** A child by name and type; children of inline frames are not looked at. Raises ELayoutError
+ * naming what is missing or of another type. */
 QObject *PegarComponente(QObject *dono, const char *nome, const QMetaObject &classe);
+
+/** Sides of a container. */
+enum TAlign { alNone, alTop, alBottom, alLeft, alRight, alClient };
+/**
+ * Makes a control stick to a side of its parent, in the order of the calls: top and bottom keep
+ * their height, left and right their width, the client takes what is left. Hidden controls take no
+ * room. alNone lets it go. Refused (ELayoutError) when the parent has a layout of another kind.
+ */
+void Alinhar(QWidget *controle, TAlign lado);
+
+/**
+ * Walks the widgets inside a widget, depth first in child order, own windows left out. The visit
+ * answers whether to go inside the widget; it may destroy any of them.
+ */
+void PercorrerFilhos(QWidget *raiz, const std::function<bool(QWidget *)> &visita);
 
 /** Fetches a child of a layout into the member that carries its name. */
 template <typename T>
