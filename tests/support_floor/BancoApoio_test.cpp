@@ -3,14 +3,13 @@
 #include "platform/core/Relogio.h"
 #include "platform/core/Servicos.h"
 #include "platform/database/ConexD.h"
-#include "platform/database/PrepararBanco.h"
 #include "platform/database/TTravas.h"
 #include "platform/support/Datas.h"
 #include "platform/support/Textos.h"
+#include "support/BancoTemp.h"
 
 #include <QRegularExpression>
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -36,38 +35,28 @@ class BancoApoio : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(pasta.isValid());
-        conexao.DatabaseName = pasta.filePath(QStringLiteral("apoio.fdb"));
-        conexao.CriarBanco(QString::fromUtf8(Esquema));
-        PrepararBanco(conexao);
-        ConexD().SQLConnection = &conexao;
         Servicos() = TServicos();
         Servicos().MensagemAviso = [this](const QString &t, int) { avisos << t; };
     }
-    void TearDown() override
-    {
-        ConexD().SQLConnection = nullptr;
-        SetRelogio({});
-    }
+    void TearDown() override { SetRelogio({}); }
 
     int Contar(const QString &onde)
     {
-        TCustomBRSQL consulta(QStringLiteral("select count(*) from grupos where ") + onde);
-        return consulta.Fields(0)->AsInteger();
+        return banco.Valor(QStringLiteral("select count(*) from grupos where ") + onde).AsInteger();
     }
 
     /** A second connection to the same database, as another workstation has it. */
     std::unique_ptr<TSQLConnection> Outra()
     {
         auto outra = std::make_unique<TSQLConnection>();
-        outra->DatabaseName = conexao.DatabaseName;
+        outra->DatabaseName = banco.Arquivo();
         outra->Open();
         return outra;
     }
 
     TServicosGuarda guarda;
-    QTemporaryDir pasta;
-    TSQLConnection conexao;
+    TBancoTemp banco{QString::fromUtf8(Esquema)};
+    TTravas &travas = banco.Conexao().Travas();
     QStringList avisos;
 };
 
@@ -111,7 +100,7 @@ TEST_F(BancoApoio, AGeneratorsNewValueIsSeenByOthersAtOnce)
     const auto outra = Outra();
     ConexD().SQLConnection = outra.get();
     EXPECT_EQ(GenVal(QStringLiteral("grupos_cod_gen")), 123);
-    ConexD().SQLConnection = &conexao;
+    ConexD().SQLConnection = &banco.Conexao();
 }
 
 TEST_F(BancoApoio, AMissingGeneratorIsAnErrorForTheCaller)
@@ -157,13 +146,13 @@ TEST_F(BancoApoio, NLinsDataSetCountsTheRows)
 TEST_F(BancoApoio, ALockIsTakenOnceAndGivenBack)
 {
     EXPECT_TRUE(GarantiaTentar(Tabela(), Um(), OndeUm()));
-    EXPECT_TRUE(conexao.Travas().Detem(Tabela(), Um()));
+    EXPECT_TRUE(travas.Detem(Tabela(), Um()));
     EXPECT_TRUE(
         GarantiaTentar(Tabela(), QStringLiteral("2"), QStringLiteral(" where grupos_cod=2")))
         << "another record is another lock";
     EXPECT_TRUE(avisos.isEmpty());
     GarantiaLiberar(Tabela(), Um());
-    EXPECT_FALSE(conexao.Travas().Detem(Tabela(), Um()));
+    EXPECT_FALSE(travas.Detem(Tabela(), Um()));
     GarantiaLiberar(Tabela(), Um());
     EXPECT_TRUE(GarantiaTentar(Tabela(), Um(), OndeUm()));
 }
@@ -180,7 +169,7 @@ TEST_F(BancoApoio, ALockHeldElsewhereIsRefusedWithItsHolder)
         QStringLiteral("^O registro está sendo alterado por .+@.+ desde 20/11/2026 09:15\\.\r\n"
                        "Tente novamente mais tarde\\.$"));
     EXPECT_TRUE(esperado.match(avisos[0]).hasMatch()) << avisos[0].toStdString();
-    EXPECT_FALSE(conexao.Travas().Detem(Tabela(), Um()));
+    EXPECT_FALSE(travas.Detem(Tabela(), Um()));
 
     outra->Travas().Liberar(Tabela(), Um());
     EXPECT_TRUE(GarantiaTentar(Tabela(), Um(), OndeUm()));
@@ -194,7 +183,7 @@ TEST_F(BancoApoio, ALockOfAnotherScreenOfThisProgramSaysSo)
     EXPECT_EQ(avisos, QStringList(QStringLiteral(
                           "O registro está sendo alterado em outra janela deste programa.\r\n"
                           "Confirme ou cancele a alteração naquela janela.")));
-    EXPECT_TRUE(conexao.Travas().Detem(Tabela(), Um())) << "the first screen keeps its lock";
+    EXPECT_TRUE(travas.Detem(Tabela(), Um())) << "the first screen keeps its lock";
 }
 
 TEST_F(BancoApoio, ARecordThatIsGoneIsRefusedAndNotLocked)
@@ -204,14 +193,14 @@ TEST_F(BancoApoio, ARecordThatIsGoneIsRefusedAndNotLocked)
     EXPECT_FALSE(GarantiaTentar(Tabela(), Um(), OndeUm()));
     EXPECT_EQ(avisos, QStringList(QStringLiteral("O registro não existe mais.\r\n"
                                                  "Foi excluído por outro usuário.")));
-    EXPECT_EQ(conexao.Travas().Count(), 0);
+    EXPECT_EQ(travas.Count(), 0);
     EXPECT_TRUE(outra->Travas().Tentar(Tabela(), Um())) << "nobody else sees a lock either";
 }
 
 TEST_F(BancoApoio, ATableWithoutKeyLocksWithoutLookingForARecord)
 {
     EXPECT_TRUE(GarantiaTentar(Tabela(), QString(), QStringLiteral(" where ")));
-    EXPECT_TRUE(conexao.Travas().Detem(Tabela(), QString()));
+    EXPECT_TRUE(travas.Detem(Tabela(), QString()));
     GarantiaLiberar(Tabela(), QString());
     EXPECT_TRUE(GarantiaTentar(Tabela(), QString(), QString()));
     EXPECT_TRUE(avisos.isEmpty());
@@ -221,7 +210,7 @@ TEST_F(BancoApoio, AFailingLookForTheRecordKeepsNoLock)
 {
     EXPECT_THROW(GarantiaTentar(Tabela(), Um(), QStringLiteral(" where coluna_errada=1")),
                  EDatabaseError);
-    EXPECT_EQ(conexao.Travas().Count(), 0);
+    EXPECT_EQ(travas.Count(), 0);
     EXPECT_TRUE(avisos.isEmpty());
 }
 

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QThread>
 
+#include <algorithm>
+
 namespace ficha
 {
 
@@ -53,6 +55,16 @@ void PrepararRotulo(QMessageBox &caixa, const char *nome, bool negrito)
     rotulo->setFont(fonte);
 }
 
+/** Room for the lines as they were written, up to a width that is still easily read. */
+void AlargarRotulo(QMessageBox &caixa, const char *nome)
+{
+    constexpr int LarguraMaxima = 420;
+    if (auto *rotulo = caixa.findChild<QLabel *>(QLatin1String(nome))) {
+        const int texto = rotulo->fontMetrics().size(Qt::TextExpandTabs, rotulo->text()).width();
+        rotulo->setMinimumWidth(std::min(texto + 2 * rotulo->margin() + 2, LarguraMaxima));
+    }
+}
+
 /** A box over the active window, without buttons yet; the caller deletes it where it still is. */
 QPointer<QMessageBox> NovaCaixa(QMessageBox::Icon icone, const QString &titulo,
                                 const QString &texto, bool comDestaque = true)
@@ -69,6 +81,7 @@ QPointer<QMessageBox> NovaCaixa(QMessageBox::Icon icone, const QString &titulo,
         caixa->setInformativeText(linhas.mid(fim + 1));
     PrepararRotulo(*caixa, "qt_msgbox_label", fim >= 0);
     PrepararRotulo(*caixa, "qt_msgbox_informativelabel", false);
+    AlargarRotulo(*caixa, "qt_msgbox_informativelabel");
     return caixa;
 }
 
