@@ -36,6 +36,7 @@ QStringList ClassesRegistradas();
 #define FICHA_REGISTRAR(Classe)                                                                    \
     namespace                                                                                      \
     {                                                                                              \
+    static_assert(QtPrivate::HasQ_OBJECT_Macro<Classe>::Value, #Classe " sem Q_OBJECT");           \
     const bool registrada##Classe =                                                                \
         (::ficha::RegistrarClasse(                                                                 \
              Classe::staticMetaObject,                                                             \
@@ -45,6 +46,7 @@ QStringList ClassesRegistradas();
 #define FICHA_REGISTRAR_WIDGET(Classe)                                                             \
     namespace                                                                                      \
     {                                                                                              \
+    static_assert(QtPrivate::HasQ_OBJECT_Macro<Classe>::Value, #Classe " sem Q_OBJECT");           \
     const bool registrada##Classe =                                                                \
         (::ficha::RegistrarClasse(Classe::staticMetaObject,                                        \
                                   [](QWidget *pai) -> QWidget * { return new Classe(pai); }),      \
@@ -55,6 +57,7 @@ QStringList ClassesRegistradas();
 #define FICHA_REGISTRAR_ABSTRATA(Classe)                                                           \
     namespace                                                                                      \
     {                                                                                              \
+    static_assert(QtPrivate::HasQ_OBJECT_Macro<Classe>::Value, #Classe " sem Q_OBJECT");           \
     const bool registrada##Classe =                                                                \
         (::ficha::RegistrarClasse(Classe::staticMetaObject, {}), true);                            \
     }

@@ -73,14 +73,12 @@ private:
     friend class TActionList;
     void AtualizarDica();
     void AtualizarIcone();
-    bool Disparar();
 
     TActionList *lista;
     QString hint;
     int imageIndex = -1;
     bool habilitada = true;
     bool visivel = true;
-    bool porPrograma = false;
     bool falhou = false;
 };
 

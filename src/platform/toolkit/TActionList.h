@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QObject>
 #include <QPointer>
 #include <QWidget>
 
@@ -29,7 +30,7 @@ public:
     /** By object name; null when there is none. */
     TAction *ActionByName(const QString &nome) const;
 
-    TImageList *GetImages() const { return imagens; }
+    TImageList *GetImages() const;
     /** The pictures for imageIndex; referred to, not owned. */
     void SetImages(TImageList *lista);
 

@@ -20,6 +20,7 @@ class TAction;
 class TBitBtn : public QPushButton
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("platform/toolkit/TAction.h")
     Q_PROPERTY(ficha::TAction *action READ GetAction WRITE SetAction)
     Q_PROPERTY(QString caption READ GetCaption WRITE SetCaption)
     Q_PROPERTY(Kind kind READ GetKind WRITE SetKind)

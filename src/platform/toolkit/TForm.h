@@ -8,6 +8,7 @@
 #include <QWidget>
 
 class QEventLoop;
+class QPushButton;
 class QMdiSubWindow;
 
 namespace ficha
@@ -173,7 +174,7 @@ private:
     void VerificarModal();
     void LigarSubJanela();
     void TornarAtivo();
-    class QPushButton *BotaoQue(bool cancela) const;
+    QPushButton *BotaoQue(bool cancela) const;
 
     BorderStyle borda = bsSizeable;
     bool sobreTudo = false;

@@ -91,7 +91,7 @@ public:
     /** A change as the user's: asks, changes, announces. Answers whether the page changed. */
     bool MudarComoUsuario(int indice);
 
-    TImageList *GetImages() const { return imagens; }
+    TImageList *GetImages() const;
     /** The pictures for imageIndex; referred to, not owned. */
     void SetImages(TImageList *lista);
 

@@ -21,6 +21,7 @@ class TToolBar;
 class TToolButton : public QToolButton
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("platform/toolkit/TAction.h")
     Q_PROPERTY(ficha::TAction *action READ GetAction WRITE SetAction)
     Q_PROPERTY(QString caption READ GetCaption WRITE SetCaption)
     Q_PROPERTY(QString hint READ GetHint WRITE SetHint)
@@ -120,10 +121,10 @@ public:
     int GetColorInt() const;
     void SetColorInt(int cor);
 
-    TImageList *GetImages() const { return imagens; }
+    TImageList *GetImages() const;
     /** The pictures for the buttons' image indices; referred to, not owned. */
     void SetImages(TImageList *lista);
-    TImageList *GetDisabledImages() const { return desabilitadas; }
+    TImageList *GetDisabledImages() const;
     /** The pictures of disabled buttons; without them the pale look of the others. */
     void SetDisabledImages(TImageList *lista);
 

@@ -1,0 +1,33 @@
+#include "platform/toolkit/TFrame.h"
+
+#include "platform/toolkit/Foco.h"
+#include "platform/toolkit/Layout.h"
+
+namespace ficha
+{
+
+TFrame::TFrame(TChave) {}
+
+void TFrame::Create(QWidget *owner)
+{
+    setParent(owner);
+    CarregarLayouts(this);
+    PegarComponentes();
+    AoEntrar(this, [this] {
+        if (OnEnter)
+            OnEnter(this);
+    });
+    AoSair(this, [this] {
+        if (OnExit)
+            OnExit(this);
+    });
+}
+
+void TFrame::SetFocus()
+{
+    setFocus(Qt::OtherFocusReason);
+}
+
+void TFrame::PegarComponentes() {}
+
+} // namespace ficha
