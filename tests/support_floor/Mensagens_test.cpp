@@ -254,8 +254,21 @@ TEST_F(Mensagens, FromAnotherThreadTheTextIsOnlyLogged)
     EXPECT_TRUE(TodasAsCaixas().isEmpty());
 }
 
+namespace
+{
+
+void Falhar(const std::string &texto)
+{
+    ReportarErro(std::make_exception_ptr(std::runtime_error(texto)));
+}
+
+} // namespace
+
 TEST_F(Mensagens, AnErrorNobodyCaughtIsShownWithTheEnginesWordsUnderDetails)
 {
+    ReportarErro(std::make_exception_ptr(
+        EErro(QStringLiteral("O código já existe.\r\n\r\nviolation of PRIMARY\r\nor UNIQUE KEY"))));
+    EXPECT_TRUE(TodasAsCaixas().isEmpty()) << "the failing code is left first";
     NaCaixa([](QMessageBox *caixa) {
         ConferirCaixa(caixa, QMessageBox::Critical, "Erro", "O código já existe.", "");
         EXPECT_EQ(caixa->detailedText(), QStringLiteral("violation of PRIMARY\nor UNIQUE KEY"));
@@ -269,43 +282,44 @@ TEST_F(Mensagens, AnErrorNobodyCaughtIsShownWithTheEnginesWordsUnderDetails)
         EXPECT_NE(Botao(caixa, QStringLiteral("Ocultar detalhes")), nullptr);
         QTest::mouseClick(Botao(caixa, QStringLiteral("OK")), Qt::LeftButton);
     });
-    ReportarErro(std::make_exception_ptr(
-        EErro(QStringLiteral("O código já existe.\r\n\r\nviolation of PRIMARY\r\nor UNIQUE KEY"))));
-    EXPECT_EQ(vistas, 1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return vistas == 1 && TodasAsCaixas().isEmpty(); }));
 }
 
 TEST_F(Mensagens, TheSameErrorIsNotShownTwiceAtOnce)
 {
-    const auto mesmo = [] {
-        ReportarErro(std::make_exception_ptr(std::runtime_error("o mesmo erro")));
-    };
-    NaCaixa([&](QMessageBox *caixa) {
+    Falhar("o mesmo erro");
+    Falhar("o mesmo erro");
+    NaCaixa([](QMessageBox *caixa) {
         for (int i = 0; i < 100; ++i)
-            mesmo();
+            Falhar("o mesmo erro");
+        QTest::qWait(10);
         EXPECT_EQ(TodasAsCaixas().size(), 1);
         QTest::keyClick(caixa, Qt::Key_Return);
     });
-    mesmo();
-    NaCaixa([&](QMessageBox *caixa) { QTest::keyClick(caixa, Qt::Key_Return); });
-    mesmo();
-    EXPECT_EQ(vistas, 2) << "shown again once the first box was closed";
+    ASSERT_TRUE(QTest::qWaitFor([this] { return vistas == 1 && TodasAsCaixas().isEmpty(); }));
+    QTest::qWait(10);
+    ASSERT_TRUE(TodasAsCaixas().isEmpty());
+
+    Falhar("o mesmo erro");
+    NaCaixa([](QMessageBox *caixa) { QTest::keyClick(caixa, Qt::Key_Return); });
+    EXPECT_TRUE(QTest::qWaitFor([this] { return vistas == 2 && TodasAsCaixas().isEmpty(); }))
+        << "shown again once the first box was closed";
 }
 
 TEST_F(Mensagens, AtMostThreeErrorBoxesStandOpen)
 {
+    for (int i = 0; i < 20; ++i)
+        Falhar("erro " + std::to_string(i));
     int abertas = 0;
-    std::function<void(int)> erro = [&](int n) {
-        QTimer::singleShot(0, qApp, [&, n] {
-            if (n < 20)
-                erro(n + 1);
-            abertas = std::max(abertas, int(TodasAsCaixas().size()));
-            if (auto *caixa = CaixaAberta())
-                caixa->accept();
-        });
-        ReportarErro(std::make_exception_ptr(std::runtime_error("erro " + std::to_string(n))));
-    };
-    erro(1);
-    QTest::qWait(50);
+    QTimer::singleShot(30, qApp, [&] {
+        abertas = int(TodasAsCaixas().size());
+        while (auto *caixa = CaixaAberta()) {
+            caixa->accept();
+            if (CaixaAberta() == caixa)
+                break;
+        }
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return abertas > 0 && TodasAsCaixas().isEmpty(); }));
     EXPECT_EQ(abertas, 3);
 }
 
@@ -314,5 +328,17 @@ TEST_F(Mensagens, AHostsErrorBoxServesTheErrorReportToo)
     QString ouvido;
     Servicos().MensagemErro = [&](const QString &t) { ouvido = t; };
     ReportarErro(std::make_exception_ptr(EErro(QStringLiteral("falhou"))));
-    EXPECT_EQ(ouvido, QStringLiteral("falhou"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ouvido == QStringLiteral("falhou"); }));
+}
+
+TEST_F(Mensagens, AnErrorBoxThatFailsItselfIsOnlyLogged)
+{
+    bool chamada = false;
+    Servicos().MensagemErro = [&](const QString &) {
+        chamada = true;
+        throw std::runtime_error("a caixa falhou");
+    };
+    Falhar("falhou");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chamada; }));
+    QTest::qWait(1);
 }

@@ -10,8 +10,10 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QThread>
+#include <QTimer>
 
 #include <algorithm>
+#include <memory>
 
 namespace ficha
 {
@@ -134,50 +136,56 @@ QString TituloErro()
     return QStringLiteral("Erro");
 }
 
-/** The errors whose boxes stand open now. A failing timer or refresh must not pile boxes up: the
- * same error is not shown twice, and no more than a few at once. Those left out are in the log. */
-class TErrosAbertos
+/** The errors whose boxes stand open or wait to be shown. A failing timer or refresh must not pile
+ * boxes up: the same error is not shown twice, and no more than a few at once. Those left out are
+ * in the log. */
+class TErroAberto
 {
 public:
-    explicit TErrosAbertos(QString doErro) : texto(std::move(doErro))
+    explicit TErroAberto(QString doErro) : texto(std::move(doErro)) { abertos.append(texto); }
+    ~TErroAberto() { abertos.removeOne(texto); }
+    TErroAberto(const TErroAberto &) = delete;
+    TErroAberto &operator=(const TErroAberto &) = delete;
+
+    static bool HaLugarPara(const QString &texto)
     {
-        entrou = abertos.size() < MaximoAberto && !abertos.contains(texto);
-        if (entrou)
-            abertos.append(texto);
+        return abertos.size() < MaximoAberto && !abertos.contains(texto);
     }
-    ~TErrosAbertos()
-    {
-        if (entrou)
-            abertos.removeOne(texto);
-    }
-    TErrosAbertos(const TErrosAbertos &) = delete;
-    TErrosAbertos &operator=(const TErrosAbertos &) = delete;
-    bool Entrou() const { return entrou; }
+    const QString &Texto() const { return texto; }
 
 private:
     static constexpr qsizetype MaximoAberto = 3;
     static inline QStringList abertos;
     QString texto;
-    bool entrou = false;
 };
 
-/** How an error that nobody caught is shown. The log line is already written; an empty line in the
- * text parts the message from the engine's own words, which go under "Detalhes". */
-void MostrarErro(const QString &texto)
+/** An empty line parts the message from the engine's own words, which go under "Detalhes". */
+void MostrarErroComDetalhes(const QString &texto)
 {
-    if (!PodeMostrar())
-        return;
-    const TErrosAbertos aberto(texto);
-    if (!aberto.Entrou())
-        return;
-    if (Servicos().MensagemErro) {
-        Servicos().MensagemErro(texto);
-        return;
-    }
     const QString separador = QStringLiteral("\r\n\r\n");
     const qsizetype fim = texto.indexOf(separador);
-    Mostrar(QMessageBox::Critical, TituloErro(), fim < 0 ? texto : texto.left(fim), true,
-            fim < 0 ? QString() : texto.mid(fim + separador.size()));
+    if (Servicos().MensagemErro)
+        Servicos().MensagemErro(texto);
+    else
+        Mostrar(QMessageBox::Critical, TituloErro(), fim < 0 ? texto : texto.left(fim), true,
+                fim < 0 ? QString() : texto.mid(fim + separador.size()));
+}
+
+/** How an error that nobody caught is shown; the log line is already written. The box waits for
+ * the event loop: the error may come out of a paint event or of an idle-time update, where nothing
+ * modal can run. */
+void MostrarErro(const QString &texto)
+{
+    if (!PodeMostrar() || !TErroAberto::HaLugarPara(texto))
+        return;
+    const auto aberto = std::make_shared<TErroAberto>(texto);
+    QTimer::singleShot(0, qApp, [aberto] {
+        try {
+            MostrarErroComDetalhes(aberto->Texto());
+        } catch (...) {
+            Registrar(TituloErro(), TextoDoErro(std::current_exception()));
+        }
+    });
 }
 
 /** Installed as soon as this floor is part of the program. */

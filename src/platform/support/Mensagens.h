@@ -16,6 +16,11 @@ namespace ficha
  *
  * Without a QApplication, and outside its thread, the text only goes to the log, and a question is
  * answered false.
+ *
+ * This floor also shows the errors that nobody caught, unless the host has a report of its own: in
+ * an error box once the event loop comes round, the engine's own words under "Detalhes". The same
+ * error is not shown again while its box stands open, and at most three boxes stand open at once;
+ * the log has them all.
  */
 
 /** A warning, titled "Aviso". The option is passed through to the host's service. */
