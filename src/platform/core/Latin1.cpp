@@ -7,14 +7,13 @@ namespace ficha
 
 bool CabeEmLatin1(const QString &texto, QString *primeiroInvalido)
 {
-    const auto achado =
-        std::ranges::find_if(texto, [](QChar c) { return c.unicode() > 0xFF; });
+    const auto achado = std::ranges::find_if(texto, [](QChar c) { return c.unicode() > 0xFF; });
     if (achado == texto.end())
         return true;
     if (primeiroInvalido) {
         const qsizetype i = achado - texto.begin();
-        const bool par = achado->isHighSurrogate() && i + 1 < texto.size() &&
-                         texto.at(i + 1).isLowSurrogate();
+        const bool par =
+            achado->isHighSurrogate() && i + 1 < texto.size() && texto.at(i + 1).isLowSurrogate();
         *primeiroInvalido = texto.mid(i, par ? 2 : 1);
     }
     return false;

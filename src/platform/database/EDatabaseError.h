@@ -36,7 +36,8 @@ class EDatabaseError : public EErro
 public:
     EDatabaseError(TErroBanco tipo, const QString &mensagem, QString textoDoBanco = {},
                    std::vector<std::int64_t> codigos = {})
-        : EErro(textoDoBanco.isEmpty() ? mensagem : mensagem + QStringLiteral("\r\n\r\n") + textoDoBanco),
+        : EErro(textoDoBanco.isEmpty() ? mensagem
+                                       : mensagem + QStringLiteral("\r\n\r\n") + textoDoBanco),
           Tipo(tipo), TextoDoBanco(std::move(textoDoBanco)), Codigos(std::move(codigos))
     {
     }

@@ -14,6 +14,10 @@ namespace ficha
  * Rows with a current one. Positioning is O(1) and announces nothing by itself beyond
  * AfterScroll; RecordCount is exact as soon as the dataset is open.
  *
+ * AfterScroll is emitted only when the row number really changes, and once by Open() when there is
+ * a row. Columns of equal names get "_1", "_2", ... appended from the second on, so that every name
+ * binds one column; a column without a name is called "F_1", and so on.
+ *
  * Row numbers run from 1; RecNo() is 0 when there is no row. A closed dataset has no rows and
  * answers every question as an empty one does.
  */
@@ -40,19 +44,21 @@ public:
     void Prior();
     /** Moves by n rows, stopping at either end; answers the rows really moved, with their sign. */
     int MoveBy(int n);
-    /** The last move tried to go past the last row, or there is no row. */
+    /** The last move tried to go past the last row, or was Last(), or there is no row. */
     bool Eof() const { return eof; }
+    /** The last move tried to go before the first row, or was First() or Open(), or no row. */
     bool Bof() const { return bof; }
 
     int FieldCount() const { return int(abertos.size()); }
     /** The i-th column of the open dataset, from 0. */
     TField *Fields(int i) const;
-    /** By name, letter case ignored; null when there is none. */
+    /** By name, letter case ignored (an exact match wins); null when there is none. An open dataset
+     * knows its columns, a closed one every field that it ever had. */
     TField *FindField(const QString &nome) const;
     /** By name; EDatabaseError naming the field when there is none. */
     TField *FieldByName(const QString &nome) const;
 
-signals:
+Q_SIGNALS:
     void AfterOpen();
     void AfterClose();
     /** The current row changed. */
@@ -80,6 +86,8 @@ protected:
 
 private:
     friend class TField;
+    void Desligar();
+    TField *CampoDaColuna(const QString &nome);
     void IrPara(int linha);
 
     std::vector<std::unique_ptr<TField>> campos; /**< every field ever made, owned */

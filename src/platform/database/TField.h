@@ -53,10 +53,22 @@ public:
     TDataSet *DataSet() const { return dataSet; }
 
     bool IsNull() const;
-    /** Null, or the natural type: text, 32-bit integer, double, date-time; booleans are the
-     * integers 0 and 1; a 64-bit integer is a double. A text column keeps its blanks. */
+    /**
+     * Null, or the natural type: text, 32-bit integer, double, date-time; booleans are the integers
+     * 0 and 1; a 64-bit integer is a double; a float column gives the shortest decimal that is this
+     * float (0.1, not 0.100000001490116). A text column keeps its blanks: CHAR comes padded to its
+     * declared width. A text blob is a text of any length; so is a binary one, a character per byte
+     * (U+0000 to U+00FF).
+     *
+     * This and the other readers raise EDatabaseError naming the field when there is a current row
+     * but the column is gone from the select.
+     */
     Variant Value() const;
-    /** The value as text, empty for Null; numbers with a comma, dates dd/mm/yyyy. */
+    /**
+     * The value as text, empty for Null: dates "dd/mm/yyyy", with " hh:nn:ss" when there is a time
+     * of day; times "hh:nn:ss"; numbers with a comma, no grouping and no idle zeros. Scaled numbers
+     * and 64-bit integers show all their digits, also those beyond the 15 that a double keeps.
+     */
     QString AsString() const;
     /** 0 for Null. */
     int AsInteger() const;
@@ -65,6 +77,8 @@ public:
 
 private:
     friend class TDataSet;
+    /** There is a current row; EDatabaseError naming the field when its column is gone. */
+    bool TemValor() const;
 
     TDataSet *dataSet;
     QString fieldName;

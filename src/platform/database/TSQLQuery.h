@@ -2,6 +2,8 @@
 
 #include "platform/database/TDataSet.h"
 
+#include <QPointer>
+
 #include <memory>
 
 namespace ficha
@@ -14,7 +16,9 @@ class TSQLConnection;
  * fetch. Lists are read in the connection's one long read-only, read-committed, NOWAIT
  * transaction, so that opening again sees the newest committed rows.
  *
- * Inside TSQLConnection::EmTransacao it reads in that transaction.
+ * Inside TSQLConnection::EmTransacao it reads in that transaction. Blobs are read with their rows.
+ * The statement is prepared at each opening, so that changed tables are seen, and nothing of the
+ * engine is held while the rows are in memory: they outlive a lost or closed connection.
  */
 class TSQLQuery : public TDataSet
 {
@@ -30,8 +34,10 @@ public:
     const QString &GetSQL() const { return sql; }
     /** Closes the query when the text differs. */
     void SetSQL(const QString &texto);
-    /** The prepared statement's plan, as the engine tells it. */
+    /** The plan of the statement as it would run now, as the engine tells it. */
     QString Plano();
+    /** Memory of the rows read, their index included. */
+    qint64 BytesUsados() const;
 
 protected:
     void AbrirLinhas() override;
@@ -43,7 +49,9 @@ protected:
 
 private:
     struct TPrivado;
-    TSQLConnection *conexao = nullptr;
+    TSQLConnection &Conexao() const;
+
+    QPointer<TSQLConnection> conexao;
     QString sql;
     std::unique_ptr<TPrivado> d;
 };

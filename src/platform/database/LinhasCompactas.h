@@ -1,0 +1,96 @@
+#pragma once
+
+// Private to this floor.
+
+#include "platform/core/Variant.h"
+
+#include <QByteArray>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace ficha
+{
+
+/** How the engine delivers a column in its message. */
+enum class TFisico : std::uint8_t {
+    Int16,
+    Int32,
+    Int64,
+    Float,
+    Double,
+    Data,
+    Hora,
+    Momento,
+    Booleano,
+    Char,    /**< padded with blanks to its declared width */
+    VarChar, /**< a 16-bit length and the bytes */
+    Blob,    /**< read apart, handed over as bytes */
+};
+
+struct TColunaFisica {
+    TFisico tipo = TFisico::Int32;
+    std::uint32_t posicao = 0;     /**< in the engine's message */
+    std::uint32_t posicaoNulo = 0; /**< of its 16-bit null flag there */
+    std::uint32_t largura = 0;     /**< declared bytes of a text */
+    int escala = 0;                /**< decimal places of an integer that stands for a number */
+    bool brancos = false;          /**< CHAR whose trailing blanks are dropped and given back */
+};
+
+/**
+ * Rows packed as tightly as they can be read without a search: a null bitmap, the fixed-size
+ * values, the end of each text, the bytes of the texts. They lie in arenas of at most 256 KiB (the
+ * first ones smaller, so that a look-up of one row costs little) and are found through a vector of
+ * pointers. Nothing in a row is aligned.
+ */
+class TLinhasCompactas
+{
+public:
+    /** Forgets all rows and takes a new set of columns. */
+    void Preparar(std::vector<TColunaFisica> novas);
+    /** Copies a row from the engine's message; blobs holds the bytes of the blob columns, by
+     * column. */
+    void Acrescentar(const unsigned char *mensagem, const std::vector<QByteArray> &blobs);
+    /** All rows are in: gives back what the growth of the row index reserved. */
+    void Concluir() { linhas.shrink_to_fit(); }
+    void Limpar();
+
+    int Count() const { return int(linhas.size()); }
+    bool Nula(int linha, int coluna) const;
+    Variant Valor(int linha, int coluna) const;
+    QString Texto(int linha, int coluna) const;
+    qint64 BytesUsados() const;
+
+private:
+    /** Where a column's fixed value, or the end of its text, stands in a row. */
+    struct TLugar {
+        std::uint32_t posicao = 0;
+        std::int32_t texto = -1; /**< number among the texts, -1 for a fixed value */
+    };
+
+    void Distribuir();
+    void MedirTextos(const unsigned char *mensagem, const std::vector<QByteArray> &blobs);
+    void CopiarTexto(unsigned char *linha, size_t i, const unsigned char *mensagem,
+                     const std::vector<QByteArray> &blobs, std::uint32_t &fim) const;
+    unsigned char *Alocar(size_t bytes);
+    std::uint32_t LerFim(const unsigned char *linha, std::int32_t texto) const;
+    QString TextoGuardado(const unsigned char *linha, size_t i) const;
+    std::int64_t Inteiro(const unsigned char *linha, size_t i) const;
+
+    std::vector<TColunaFisica> colunas;
+    std::vector<TLugar> lugares;
+    std::vector<std::uint32_t> comprimentos; /**< of the texts of the row being copied */
+    std::uint32_t inicioDosFins = 0;
+    std::uint32_t inicioDosTextos = 0;
+    bool finsLargos = false; /**< 32-bit ends, for rows that may exceed 64 KiB */
+
+    std::vector<std::unique_ptr<unsigned char[]>> arenas;
+    size_t livre = 0; /**< bytes left in the last arena */
+    unsigned char *proximo = nullptr;
+    size_t proximaArena = 0;
+    qint64 bytesDasArenas = 0;
+    std::vector<unsigned char *> linhas;
+};
+
+} // namespace ficha

@@ -1,0 +1,178 @@
+#include "platform/database/TDataSet.h"
+
+#include "platform/database/EDatabaseError.h"
+
+#include <algorithm>
+
+namespace ficha
+{
+
+namespace
+{
+
+template <typename T>
+TField *PorNome(const T &campos, const QString &nome)
+{
+    for (const auto &campo : campos) {
+        if (campo->FieldName() == nome)
+            return &*campo;
+    }
+    for (const auto &campo : campos) {
+        if (campo->FieldName().compare(nome, Qt::CaseInsensitive) == 0)
+            return &*campo;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+TDataSet::TDataSet(QObject *owner) : QObject(owner) {}
+
+TDataSet::~TDataSet() = default;
+
+void TDataSet::Open()
+{
+    if (aberto)
+        return;
+    try {
+        AbrirLinhas();
+    } catch (...) {
+        FecharLinhas();
+        Desligar();
+        throw;
+    }
+    aberto = true;
+    recNo = IsEmpty() ? 0 : 1;
+    bof = true;
+    eof = recNo == 0;
+    Q_EMIT AfterOpen();
+    if (aberto && recNo > 0)
+        Q_EMIT AfterScroll();
+}
+
+void TDataSet::Close()
+{
+    if (!aberto)
+        return;
+    FecharLinhas();
+    Desligar();
+    aberto = false;
+    recNo = 0;
+    eof = bof = true;
+    Q_EMIT AfterClose();
+}
+
+void TDataSet::Desligar()
+{
+    for (TField *campo : abertos)
+        campo->coluna = -1;
+    abertos.clear();
+}
+
+int TDataSet::RecordCount() const
+{
+    return aberto ? ContarLinhas() : 0;
+}
+
+void TDataSet::First()
+{
+    eof = IsEmpty();
+    IrPara(eof ? 0 : 1);
+    bof = true;
+}
+
+void TDataSet::Last()
+{
+    const int total = RecordCount();
+    bof = total == 0;
+    IrPara(total);
+    eof = true;
+}
+
+void TDataSet::Next()
+{
+    MoveBy(1);
+}
+
+void TDataSet::Prior()
+{
+    MoveBy(-1);
+}
+
+int TDataSet::MoveBy(int n)
+{
+    const int total = RecordCount();
+    if (n == 0 || total == 0)
+        return 0;
+    const int antes = recNo;
+    const qint64 alvo = qint64(recNo) + n;
+    eof = alvo > total;
+    bof = alvo < 1;
+    IrPara(int(std::clamp<qint64>(alvo, 1, total)));
+    return recNo - antes;
+}
+
+TField *TDataSet::Fields(int i) const
+{
+    if (i < 0 || i >= FieldCount()) {
+        throw EDatabaseError(TErroBanco::Outro,
+                             QStringLiteral("A consulta não tem a coluna de número %1.").arg(i));
+    }
+    return abertos[size_t(i)];
+}
+
+TField *TDataSet::FindField(const QString &nome) const
+{
+    return aberto ? PorNome(abertos, nome) : PorNome(campos, nome);
+}
+
+TField *TDataSet::FieldByName(const QString &nome) const
+{
+    if (TField *campo = FindField(nome))
+        return campo;
+    throw EDatabaseError(TErroBanco::Outro,
+                         QStringLiteral("O campo '%1' não existe na consulta.").arg(nome));
+}
+
+QString TDataSet::CelulaTexto(int linha, int coluna) const
+{
+    return CelulaValor(linha, coluna).AsString();
+}
+
+void TDataSet::DefinirColunas(const std::vector<TColuna> &colunas)
+{
+    Desligar();
+    abertos.reserve(colunas.size());
+    for (const TColuna &coluna : colunas) {
+        TField *campo = CampoDaColuna(coluna.nome);
+        campo->tipo = coluna.tipo;
+        campo->tamanho = coluna.tamanho;
+        campo->escala = coluna.escala;
+        campo->coluna = FieldCount();
+        abertos.push_back(campo);
+    }
+}
+
+TField *TDataSet::CampoDaColuna(const QString &nome)
+{
+    QString livre = nome.isEmpty() ? QStringLiteral("F_1") : nome;
+    const auto emUso = [&](const TField *campo) { return campo->fieldName == livre; };
+    for (int n = 1; std::ranges::any_of(abertos, emUso); ++n)
+        livre = QStringLiteral("%1_%2").arg(nome.isEmpty() ? QStringLiteral("F") : nome).arg(n);
+    for (const auto &campo : campos) {
+        if (campo->fieldName == livre)
+            return campo.get();
+    }
+    campos.push_back(std::make_unique<TField>(this, livre));
+    return campos.back().get();
+}
+
+void TDataSet::IrPara(int linha)
+{
+    if (linha == recNo)
+        return;
+    recNo = linha;
+    Q_EMIT AfterScroll();
+}
+
+} // namespace ficha

@@ -1,0 +1,451 @@
+#include "platform/database/TSQLQuery.h"
+
+#include "platform/database/EDatabaseError.h"
+#include "support/BancoTemp.h"
+
+#include <QElapsedTimer>
+
+#include <cmath>
+
+using namespace ficha;
+
+namespace
+{
+
+const QString Tipos = QStringLiteral(R"(
+    create table tipos (
+        id integer not null primary key,
+        c5 char(5), v40 varchar(40),
+        si smallint, i integer, bi bigint,
+        n92 numeric(9,2), n152 numeric(15,2), n184 numeric(18,4), n41 numeric(4,1),
+        f float, d double precision,
+        dt date, tm time, ts timestamp, b boolean,
+        memo blob sub_type text, bin blob sub_type binary,
+        oct char(3) character set octets, semc varchar(10) character set none,
+        u8 varchar(20) character set utf8, mu8 blob sub_type text character set utf8);
+)");
+
+class TSQLQueryTest : public testing::Test
+{
+protected:
+    TSQLQueryTest() { query.SetSQLConnection(&banco.Conexao()); }
+
+    void Abrir(const QString &sql)
+    {
+        query.Close();
+        query.SetSQL(sql);
+        query.Open();
+    }
+    /** Stores one value in a column and reads the row back. */
+    TField *Gravado(const QString &coluna, const QString &literal)
+    {
+        banco.Executar(QStringLiteral("update or insert into tipos (id, %1) values (1, %2)")
+                           .arg(coluna, literal));
+        Abrir(QStringLiteral("select %1 from tipos where id = 1").arg(coluna));
+        return query.Fields(0);
+    }
+
+    TBancoTemp banco{Tipos};
+    TSQLQuery query;
+};
+
+/** The amount as a screen would write it into a statement. */
+QString Literal(double valor, int casas)
+{
+    return QString::number(valor, 'f', casas);
+}
+
+} // namespace
+
+TEST_F(TSQLQueryTest, ColumnsTellTheirTypes)
+{
+    Abrir(QStringLiteral("select * from tipos"));
+    const auto tipo = [&](const char *nome) {
+        return query.FieldByName(QString::fromLatin1(nome))->DataType();
+    };
+    EXPECT_EQ(tipo("c5"), TFieldType::ftString);
+    EXPECT_EQ(tipo("v40"), TFieldType::ftString);
+    EXPECT_EQ(tipo("si"), TFieldType::ftSmallint);
+    EXPECT_EQ(tipo("i"), TFieldType::ftInteger);
+    EXPECT_EQ(tipo("bi"), TFieldType::ftFloat);
+    EXPECT_EQ(tipo("n92"), TFieldType::ftFloat);
+    EXPECT_EQ(tipo("n152"), TFieldType::ftFloat);
+    EXPECT_EQ(tipo("n41"), TFieldType::ftFloat);
+    EXPECT_EQ(tipo("f"), TFieldType::ftFloat);
+    EXPECT_EQ(tipo("d"), TFieldType::ftFloat);
+    EXPECT_EQ(tipo("dt"), TFieldType::ftDate);
+    EXPECT_EQ(tipo("tm"), TFieldType::ftTime);
+    EXPECT_EQ(tipo("ts"), TFieldType::ftDateTime);
+    EXPECT_EQ(tipo("b"), TFieldType::ftBoolean);
+    EXPECT_EQ(tipo("memo"), TFieldType::ftMemo);
+    EXPECT_EQ(tipo("bin"), TFieldType::ftBlob);
+    EXPECT_EQ(query.FieldByName(QStringLiteral("v40"))->Size(), 40);
+    EXPECT_EQ(query.FieldByName(QStringLiteral("u8"))->Size(), 20);
+    EXPECT_EQ(query.FieldByName(QStringLiteral("i"))->Size(), 0);
+    EXPECT_EQ(query.FieldByName(QStringLiteral("n184"))->Escala(), 4);
+    EXPECT_EQ(query.FieldByName(QStringLiteral("v40"))->FieldName(), QStringLiteral("V40"));
+}
+
+TEST_F(TSQLQueryTest, EveryTypeHoldsNull)
+{
+    banco.Executar(QStringLiteral("insert into tipos (id) values (1)"));
+    Abrir(QStringLiteral("select * from tipos"));
+    for (int i = 1; i < query.FieldCount(); ++i) {
+        EXPECT_TRUE(query.Fields(i)->IsNull()) << query.Fields(i)->FieldName().toStdString();
+        EXPECT_EQ(query.Fields(i)->Value(), Null);
+        EXPECT_EQ(query.Fields(i)->AsString(), QString());
+        EXPECT_EQ(query.Fields(i)->AsInteger(), 0);
+    }
+    EXPECT_FALSE(query.Fields(0)->IsNull());
+}
+
+TEST_F(TSQLQueryTest, Numeric152KeepsEveryCentavoBothWays)
+{
+    for (const char *texto : {"9999999999999.99", "-9999999999999.99", "0.01", "-0.01", "0.00",
+                              "1234567890123.45", "7036874417766.07", "-1.10", "0.29", "4.35"}) {
+        const TField *campo = Gravado(QStringLiteral("n152"), QString::fromLatin1(texto));
+        const Variant valor = campo->Value();
+        ASSERT_TRUE(valor.EhDouble());
+        EXPECT_EQ(valor.AsFloat(), QString::fromLatin1(texto).toDouble()) << texto;
+        EXPECT_EQ(campo->AsString(), valor.AsString()) << texto;
+        const TField *deNovo = Gravado(QStringLiteral("n152"), Literal(valor.AsFloat(), 2));
+        EXPECT_EQ(deNovo->Value(), valor) << texto;
+    }
+    EXPECT_EQ(Gravado(QStringLiteral("n152"), QStringLiteral("-0.01"))->AsString(),
+              QStringLiteral("-0,01"));
+    EXPECT_EQ(Gravado(QStringLiteral("n152"), QStringLiteral("9999999999999.99"))->AsString(),
+              QStringLiteral("9999999999999,99"));
+    EXPECT_EQ(Gravado(QStringLiteral("n152"), QStringLiteral("1234.50"))->AsString(),
+              QStringLiteral("1234,5"));
+}
+
+TEST_F(TSQLQueryTest, SmallerScaledNumbers)
+{
+    EXPECT_EQ(Gravado(QStringLiteral("n92"), QStringLiteral("9999999.99"))->AsFloat(), 9999999.99);
+    EXPECT_EQ(Gravado(QStringLiteral("n92"), QStringLiteral("-9999999.99"))->AsString(),
+              QStringLiteral("-9999999,99"));
+    EXPECT_EQ(Gravado(QStringLiteral("n41"), QStringLiteral("-999.9"))->AsFloat(), -999.9);
+    EXPECT_EQ(Gravado(QStringLiteral("n41"), QStringLiteral("0.5"))->AsString(),
+              QStringLiteral("0,5"));
+}
+
+TEST_F(TSQLQueryTest, Numeric184ShowsAllItsDigits)
+{
+    const TField *campo = Gravado(QStringLiteral("n184"), QStringLiteral("99999999999.9999"));
+    EXPECT_EQ(campo->AsFloat(), 99999999999.9999);
+    EXPECT_EQ(campo->AsString(), QStringLiteral("99999999999,9999"));
+    campo = Gravado(QStringLiteral("n184"), QStringLiteral("-99999999999999.9999"));
+    EXPECT_EQ(campo->AsString(), QStringLiteral("-99999999999999,9999"));
+    EXPECT_EQ(campo->AsFloat(), -99999999999999.9999);
+    EXPECT_EQ(Gravado(QStringLiteral("n184"), QStringLiteral("-0.0001"))->AsString(),
+              QStringLiteral("-0,0001"));
+}
+
+TEST_F(TSQLQueryTest, IntegersAtTheirLimits)
+{
+    EXPECT_EQ(Gravado(QStringLiteral("si"), QStringLiteral("-32768"))->Value(), Variant(-32768));
+    const TField *i = Gravado(QStringLiteral("i"), QStringLiteral("2147483647"));
+    EXPECT_TRUE(i->Value().EhInteiro());
+    EXPECT_EQ(i->AsInteger(), 2147483647);
+    EXPECT_EQ(Gravado(QStringLiteral("i"), QStringLiteral("-2147483648"))->AsString(),
+              QStringLiteral("-2147483648"));
+    const TField *bi = Gravado(QStringLiteral("bi"), QStringLiteral("9223372036854775807"));
+    EXPECT_TRUE(bi->Value().EhDouble());
+    EXPECT_EQ(bi->AsString(), QStringLiteral("9223372036854775807"));
+    EXPECT_THROW(bi->AsInteger(), EVariantError);
+    EXPECT_EQ(Gravado(QStringLiteral("bi"), QStringLiteral("-9223372036854775808"))->AsString(),
+              QStringLiteral("-9223372036854775808"));
+}
+
+TEST_F(TSQLQueryTest, FloatIsTheShortestDecimalAndDoubleIsExact)
+{
+    EXPECT_EQ(Gravado(QStringLiteral("f"), QStringLiteral("0.1"))->AsFloat(), 0.1);
+    EXPECT_EQ(Gravado(QStringLiteral("f"), QStringLiteral("0.1"))->AsString(),
+              QStringLiteral("0,1"));
+    EXPECT_EQ(Gravado(QStringLiteral("f"), QStringLiteral("-1.5e30"))->AsFloat(), -1.5e30);
+    EXPECT_EQ(Gravado(QStringLiteral("d"), QStringLiteral("3.141592653589793e0"))->AsFloat(),
+              3.141592653589793);
+    EXPECT_EQ(Gravado(QStringLiteral("d"), QStringLiteral("1e-300"))->AsFloat(), 1e-300);
+}
+
+TEST_F(TSQLQueryTest, DatesFromTheFirstToTheLastTheEngineKnows)
+{
+    EXPECT_EQ(Gravado(QStringLiteral("dt"), QStringLiteral("date '1899-12-30'"))->Value(),
+              Variant(TDateTime(0.0)));
+    EXPECT_EQ(
+        Gravado(QStringLiteral("dt"), QStringLiteral("date '1980-01-01'"))->AsDateTime().Dias(),
+        29221.0);
+    EXPECT_EQ(Gravado(QStringLiteral("dt"), QStringLiteral("date '0001-01-01'"))->AsString(),
+              QStringLiteral("01/01/0001"));
+    EXPECT_EQ(Gravado(QStringLiteral("dt"), QStringLiteral("date '9999-12-31'"))->AsString(),
+              QStringLiteral("31/12/9999"));
+    EXPECT_EQ(
+        Gravado(QStringLiteral("dt"), QStringLiteral("date '2024-02-29'"))->AsDateTime().Data(),
+        QDate(2024, 2, 29));
+}
+
+TEST_F(TSQLQueryTest, TimesAndTimestamps)
+{
+    EXPECT_EQ(Gravado(QStringLiteral("tm"), QStringLiteral("time '23:59:59'"))->AsString(),
+              QStringLiteral("23:59:59"));
+    EXPECT_EQ(Gravado(QStringLiteral("tm"), QStringLiteral("time '00:00:00'"))->AsString(),
+              QStringLiteral("00:00:00"));
+    EXPECT_EQ(Gravado(QStringLiteral("tm"), QStringLiteral("time '12:00:00'"))->AsFloat(), 0.5);
+    const TField *ts =
+        Gravado(QStringLiteral("ts"), QStringLiteral("timestamp '2024-03-05 14:07:09.1230'"));
+    EXPECT_EQ(ts->AsString(), QStringLiteral("05/03/2024 14:07:09"));
+    EXPECT_EQ(ts->AsDateTime().DataHora(), QDateTime(QDate(2024, 3, 5), QTime(14, 7, 9, 123)));
+    EXPECT_EQ(Gravado(QStringLiteral("ts"), QStringLiteral("timestamp '1850-06-07 18:00:00'"))
+                  ->AsDateTime()
+                  .DataHora(),
+              QDateTime(QDate(1850, 6, 7), QTime(18, 0)));
+    EXPECT_EQ(Gravado(QStringLiteral("ts"), QStringLiteral("timestamp '2024-03-05 00:00:00'"))
+                  ->AsString(),
+              QStringLiteral("05/03/2024"));
+}
+
+TEST_F(TSQLQueryTest, BooleansAreOneAndZero)
+{
+    EXPECT_EQ(Gravado(QStringLiteral("b"), QStringLiteral("true"))->Value(), Variant(1));
+    EXPECT_EQ(Gravado(QStringLiteral("b"), QStringLiteral("false"))->Value(), Variant(0));
+    EXPECT_FALSE(query.Fields(0)->IsNull());
+}
+
+TEST_F(TSQLQueryTest, CharComesPaddedAndVarcharKeepsItsBlanks)
+{
+    EXPECT_EQ(Gravado(QStringLiteral("c5"), QStringLiteral("'ab'"))->AsString(),
+              QStringLiteral("ab   "));
+    EXPECT_EQ(Gravado(QStringLiteral("c5"), QStringLiteral("''"))->AsString(),
+              QStringLiteral("     "));
+    EXPECT_EQ(Gravado(QStringLiteral("c5"), QStringLiteral("' b'"))->AsString(),
+              QStringLiteral(" b   "));
+    EXPECT_EQ(Gravado(QStringLiteral("v40"), QStringLiteral("' x  '"))->AsString(),
+              QStringLiteral(" x  "));
+    const TField *vazio = Gravado(QStringLiteral("v40"), QStringLiteral("''"));
+    EXPECT_FALSE(vazio->IsNull());
+    EXPECT_EQ(vazio->Value(), Variant(QString()));
+}
+
+TEST_F(TSQLQueryTest, AccentsInEveryCharacterSet)
+{
+    const QString acentos = QStringLiteral("AÇÃO é ü ÿ ½");
+    for (const char *coluna : {"v40", "u8", "memo", "mu8"}) {
+        EXPECT_EQ(
+            Gravado(QString::fromLatin1(coluna), QStringLiteral("'%1'").arg(acentos))->AsString(),
+            acentos)
+            << coluna;
+    }
+    EXPECT_EQ(Gravado(QStringLiteral("semc"), QStringLiteral("'ação'"))->AsString(),
+              QStringLiteral("ação"));
+    EXPECT_EQ(Gravado(QStringLiteral("oct"), QStringLiteral("x'41E900'"))->AsString(),
+              QStringLiteral("Aé") + QChar(0));
+}
+
+TEST_F(TSQLQueryTest, CharacterThatLatin1LacksCannotBeReadAsText)
+{
+    banco.Executar(QStringLiteral("insert into tipos (id, u8) values (1, _utf8 x'E282AC')"));
+    try {
+        Abrir(QStringLiteral("select u8 from tipos"));
+        FAIL() << "read as '" << query.Fields(0)->AsString().toStdString() << "'";
+    } catch (const EDatabaseError &erro) {
+        EXPECT_EQ(erro.Tipo, TErroBanco::CaractereInvalido);
+    }
+    EXPECT_FALSE(query.Active());
+}
+
+TEST_F(TSQLQueryTest, BlobsOfAnyLength)
+{
+    banco.Executar(QStringLiteral("insert into tipos (id, memo, bin) values (1, '', '')"));
+    Abrir(QStringLiteral("select memo, bin from tipos"));
+    EXPECT_FALSE(query.Fields(0)->IsNull());
+    EXPECT_EQ(query.Fields(0)->AsString(), QString());
+    banco.Executar(QStringLiteral(
+        "execute block as declare n integer = 0; declare t blob sub_type text = ''; begin "
+        "while (n < 100) do begin t = t || rpad('', 10000, 'ação '); n = n + 1; end "
+        "update tipos set memo = :t, bin = x'00FF7F'; end"));
+    Abrir(QStringLiteral("select id, memo, bin from tipos"));
+    const QString memo = query.Fields(1)->AsString();
+    EXPECT_EQ(memo.size(), 1000000);
+    EXPECT_EQ(memo.left(10), QStringLiteral("ação ação "));
+    EXPECT_EQ(memo.right(5), QStringLiteral("ação "));
+    EXPECT_EQ(query.Fields(2)->AsString(), QString::fromLatin1("\x00\xFF\x7F", 3));
+    EXPECT_EQ(query.Fields(0)->AsInteger(), 1);
+}
+
+TEST_F(TSQLQueryTest, RowsWiderThan64KiB)
+{
+    banco.Executar(
+        QStringLiteral("create table larga (a varchar(32000), b varchar(32000), c integer)"));
+    banco.Executar(QStringLiteral(
+        "insert into larga values (rpad('', 32000, 'x'), rpad('', 31000, 'y') || 'fim', 7)"));
+    banco.Executar(QStringLiteral("insert into larga values (null, 'b', 8)"));
+    Abrir(QStringLiteral("select a.a, a.b, b.a aa, b.b bb, a.c from larga a, larga b "
+                         "order by a.c, b.c"));
+    EXPECT_EQ(query.RecordCount(), 4);
+    EXPECT_EQ(query.Fields(0)->AsString(), QString(32000, u'x'));
+    EXPECT_TRUE(query.Fields(3)->AsString().endsWith(QStringLiteral("yfim")));
+    EXPECT_EQ(query.Fields(4)->AsInteger(), 7);
+    query.Last();
+    EXPECT_TRUE(query.Fields(0)->IsNull());
+    EXPECT_EQ(query.Fields(1)->AsString(), QStringLiteral("b"));
+    EXPECT_EQ(query.Fields(4)->AsInteger(), 8);
+}
+
+TEST_F(TSQLQueryTest, EmptyTableHasColumnsAndNoRows)
+{
+    Abrir(QStringLiteral("select * from tipos"));
+    EXPECT_TRUE(query.Active());
+    EXPECT_TRUE(query.IsEmpty());
+    EXPECT_EQ(query.FieldCount(), 22);
+    EXPECT_EQ(query.FieldByName(QStringLiteral("I"))->Value(), Null);
+    Abrir(QStringLiteral("select max(id) from tipos"));
+    EXPECT_EQ(query.RecordCount(), 1);
+    EXPECT_TRUE(query.Fields(0)->IsNull());
+    EXPECT_EQ(query.Fields(0)->AsInteger(), 0);
+}
+
+TEST_F(TSQLQueryTest, MoreThanThirtyTwoColumnsKeepTheirNulls)
+{
+    QStringList colunas;
+    for (int i = 0; i < 40; ++i)
+        colunas << (i % 3 ? QString::number(i) : QStringLiteral("cast(null as integer)")) +
+                       QStringLiteral(" as C%1").arg(i);
+    Abrir(QStringLiteral("select %1 from rdb$database").arg(colunas.join(u',')));
+    for (int i = 0; i < 40; ++i) {
+        EXPECT_EQ(query.Fields(i)->IsNull(), i % 3 == 0) << i;
+        EXPECT_EQ(query.Fields(i)->AsInteger(), i % 3 ? i : 0) << i;
+    }
+}
+
+TEST_F(TSQLQueryTest, ColumnDroppedFromTheTableIsAnErrorThatNamesIt)
+{
+    banco.Executar(QStringLiteral("insert into tipos (id, v40) values (1, 'x')"));
+    Abrir(QStringLiteral("select * from tipos"));
+    TField *campo = query.FieldByName(QStringLiteral("V40"));
+    query.Close();
+    banco.Executar(QStringLiteral("alter table tipos drop v40"));
+    query.Open();
+    try {
+        campo->Value();
+        FAIL() << "a dropped column was read";
+    } catch (const EDatabaseError &erro) {
+        EXPECT_TRUE(erro.Mensagem().contains(QStringLiteral("V40")));
+    }
+}
+
+TEST_F(TSQLQueryTest, TableCanBeAlteredWhileAListOfItIsOpen)
+{
+    Abrir(QStringLiteral("select id, v40 from tipos"));
+    banco.Executar(QStringLiteral("alter table tipos drop v40"));
+    EXPECT_EQ(query.FieldCount(), 2);
+}
+
+TEST_F(TSQLQueryTest, ReopeningSeesNewRowsOfTheSameConnection)
+{
+    Abrir(QStringLiteral("select id from tipos order by id"));
+    EXPECT_EQ(query.RecordCount(), 0);
+    banco.Executar(QStringLiteral("insert into tipos (id) values (5)"));
+    EXPECT_EQ(query.RecordCount(), 0);
+    query.Close();
+    query.Open();
+    EXPECT_EQ(query.RecordCount(), 1);
+    EXPECT_EQ(query.Fields(0)->AsInteger(), 5);
+}
+
+TEST_F(TSQLQueryTest, SeesTheRowsOfItsOwnTransactionBeforeTheCommit)
+{
+    banco.Conexao().EmTransacao([&] {
+        banco.Executar(QStringLiteral("insert into tipos (id) values (5)"));
+        Abrir(QStringLiteral("select id from tipos"));
+        EXPECT_EQ(query.RecordCount(), 1);
+    });
+}
+
+TEST_F(TSQLQueryTest, RowsOutliveTheConnection)
+{
+    auto conexao = std::make_unique<TSQLConnection>();
+    conexao->DatabaseName = banco.Arquivo();
+    conexao->Open();
+    banco.Executar(QStringLiteral("insert into tipos (id, memo) values (5, 'm')"));
+    query.SetSQLConnection(conexao.get());
+    Abrir(QStringLiteral("select id, memo from tipos"));
+    conexao.reset();
+    EXPECT_EQ(query.Fields(1)->AsString(), QStringLiteral("m"));
+    query.Close();
+    EXPECT_THROW(query.Open(), EDatabaseError);
+}
+
+TEST_F(TSQLQueryTest, MistakesAreErrorsAndLeaveItClosed)
+{
+    const auto tipo = [&](const char *sql) {
+        try {
+            Abrir(QString::fromLatin1(sql));
+        } catch (const EDatabaseError &erro) {
+            EXPECT_FALSE(query.Active());
+            return erro.Tipo;
+        }
+        ADD_FAILURE() << "opened: " << sql;
+        return TErroBanco::Outro;
+    };
+    EXPECT_EQ(tipo(""), TErroBanco::Sintaxe);
+    EXPECT_EQ(tipo("   "), TErroBanco::Sintaxe);
+    EXPECT_EQ(tipo("selecione tudo"), TErroBanco::Sintaxe);
+    EXPECT_EQ(tipo("select * from nenhuma"), TErroBanco::Sintaxe);
+    EXPECT_EQ(tipo("select nada from tipos"), TErroBanco::Sintaxe);
+    EXPECT_EQ(tipo("insert into tipos (id) values (1)"), TErroBanco::Outro);
+    EXPECT_EQ(tipo("select id / 0 from (select 1 as id from rdb$database)"), TErroBanco::Outro);
+    TSQLQuery semConexao;
+    semConexao.SetSQL(QStringLiteral("select 1 from rdb$database"));
+    EXPECT_THROW(semConexao.Open(), EDatabaseError);
+    Abrir(QStringLiteral("select 1 from rdb$database"));
+    EXPECT_EQ(query.RecordCount(), 1);
+}
+
+TEST_F(TSQLQueryTest, SettingTheTextClosesOnlyWhenItDiffers)
+{
+    Abrir(QStringLiteral("select 1 from rdb$database"));
+    query.SetSQL(QStringLiteral("select 1 from rdb$database"));
+    EXPECT_TRUE(query.Active());
+    query.SetSQL(QStringLiteral("select 2 from rdb$database"));
+    EXPECT_FALSE(query.Active());
+    EXPECT_EQ(query.BytesUsados(), 0);
+}
+
+TEST_F(TSQLQueryTest, TellsItsPlan)
+{
+    query.SetSQL(QStringLiteral("select * from tipos where id = 1"));
+    EXPECT_TRUE(query.Plano().contains(QStringLiteral("INDEX"))) << query.Plano().toStdString();
+}
+
+TEST_F(TSQLQueryTest, UserTextOfAnyKindDoesNoHarm)
+{
+    const QString maldoso =
+        QStringLiteral("it's; -- /* \"x\" \\ %1 %s '' ; drop table tipos; \r\n\t?:a :b");
+    const QString texto = maldoso.repeated(10000 / maldoso.size() + 1).left(10000);
+    QString literal = texto;
+    literal.replace(u'\'', QStringLiteral("''"));
+    EXPECT_EQ(banco.Executar(QStringLiteral("insert into tipos (id, memo) values (1, '") + literal +
+                             QStringLiteral("')")),
+              1);
+    Abrir(QStringLiteral("select memo from tipos"));
+    EXPECT_EQ(query.Fields(0)->AsString(), texto);
+}
+
+TEST_F(TSQLQueryTest, StatementsOfSeveralMegabytes)
+{
+    const QString comentario =
+        QStringLiteral("/*") + QString(6 * 1024 * 1024, u'x') + QStringLiteral("*/");
+    Abrir(QStringLiteral("select ") + comentario + QStringLiteral(" 7 from rdb$database"));
+    EXPECT_EQ(query.Fields(0)->AsInteger(), 7);
+    EXPECT_EQ(banco.Executar(QStringLiteral("insert into tipos (id) ") + comentario +
+                             QStringLiteral(" values (1)")),
+              1);
+}
+
+TEST_F(TSQLQueryTest, NameLookupsIgnoreLetterCaseButNotQuotedNames)
+{
+    Abrir(QStringLiteral("select 1 as \"Código\", 2 as outro from rdb$database"));
+    EXPECT_EQ(query.Fields(0)->FieldName(), QStringLiteral("Código"));
+    EXPECT_EQ(query.FieldByName(QStringLiteral("CÓDIGO"))->AsInteger(), 1);
+    EXPECT_EQ(query.FieldByName(QStringLiteral("Outro"))->AsInteger(), 2);
+}
