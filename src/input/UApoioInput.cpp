@@ -1,0 +1,44 @@
+#include "input/UApoioInput.h"
+
+#include "platform/support/Textos.h"
+
+namespace ficha
+{
+
+void LigarFrase(TLinhas &frases, int i, bool ligada)
+{
+    if (i < frases.Count())
+        frases.SetObjeto(i, ligada ? 1 : 0);
+}
+
+void LigarFraseDoMaximo(TLinhas &frases, qsizetype tamanho, int maximo)
+{
+    if (maximo <= 0 || FraseMaxCaracteres >= frases.Count())
+        return;
+    const bool cheio = tamanho == maximo;
+    frases.SetObjeto(FraseMaxCaracteres, cheio ? 1 : 0);
+    if (cheio)
+        frases.SetTexto(FraseMaxCaracteres, QStringLiteral("Máx ") + QString::number(maximo) +
+                                                QStringLiteral(" caracs."));
+}
+
+bool IniciaEdicao(QChar caractere)
+{
+    return QStringView(u" 1234567890!@#$%&*()QWERTYUIOPÇLKJHGFDSAZXCVBNMqwertyuiopçlkjhgfdsazxcvbnm"
+                       u"<>,.;:/\\|?]}[{=-_+")
+        .contains(caractere);
+}
+
+QString SQLDoCaractere(int n)
+{
+    return QuotedStr(QChar(char16_t(unsigned(n) + 32U)));
+}
+
+QString TextoForaDosLimites(const QString &rotulo, int minimo, int maximo)
+{
+    return rotulo + QStringLiteral(" deve estar entre ") + QString::number(minimo) +
+           QStringLiteral(" e ") + QString::number(maximo) +
+           QStringLiteral(". Ajuste o seu valor ou clique em Cancelar.");
+}
+
+} // namespace ficha

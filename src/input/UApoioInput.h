@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/core/TLinhas.h"
+
+#include <QString>
+
+namespace ficha
+{
+
+/** Where the help phrases of the value frames stand in their lists. */
+enum TFraseIndice : int {
+    FraseJaExiste = 0,
+    FraseObrigatorio = 1, /**< or the frame's own validity phrase */
+    FraseMaxCaracteres = 2,
+};
+
+/** Switches a phrase on or off; one that the list does not hold yet is passed over. */
+void LigarFrase(TLinhas &frases, int i, bool ligada);
+/** Phrase 2 while a text has exactly the maximum length, naming it; no maximum (0) leaves the
+ * phrase as it is. Both in characters. */
+void LigarFraseDoMaximo(TLinhas &frases, qsizetype tamanho, int maximo);
+
+/** Whether a typed character starts an alteration: the blank, digits, letters without accents, ç
+ * and most signs; never Enter or another control character. */
+bool IniciaEdicao(QChar caractere);
+
+/** A number as a one-character literal for a char(1) column: the character of code n + 32 in
+ * ISO8859_1, quoted. Codes above 255 are the caller's concern. */
+QString SQLDoCaractere(int n);
+
+/** The refusal of a number outside its bounds; both are named, enforced or not. */
+QString TextoForaDosLimites(const QString &rotulo, int minimo, int maximo);
+
+} // namespace ficha
