@@ -159,8 +159,30 @@ struct TLeitura {
     QString mensagem;
 };
 
-/** A file that could not be read or written: the operating system's reason decides. */
-TLeitura LerErroDeArquivo(const TItem &item, int erro)
+/** The operating system's reason. A server sends it as a text instead of a number. */
+int ErroDoSistema(const TVetor &vetor)
+{
+    static const std::array<std::pair<int, QLatin1String>, 6> textos = {{
+        {ENOENT, QLatin1String("No such file or directory")},
+        {ENOTDIR, QLatin1String("Not a directory")},
+        {EACCES, QLatin1String("Permission denied")},
+        {EROFS, QLatin1String("Read-only file system")},
+        {EEXIST, QLatin1String("File exists")},
+        {ENOSPC, QLatin1String("No space left on device")},
+    }};
+    if (vetor.erroDoSistema != 0)
+        return vetor.erroDoSistema;
+    for (const auto &[erro, texto] : textos) {
+        for (const TItem &item : vetor.itens) {
+            if (std::ranges::find(item.textos, texto) != item.textos.end())
+                return erro;
+        }
+    }
+    return 0;
+}
+
+/** A file that could not be read or written. */
+TLeitura LerErroDeArquivo(const TItem &item, int erro, TMomento momento)
 {
     const QString arquivo = item.textos.size() > 1 ? item.textos[1] : QString();
     switch (erro) {
@@ -183,6 +205,9 @@ TLeitura LerErroDeArquivo(const TItem &item, int erro)
         return {TErroBanco::DiscoCheio,
                 QStringLiteral("Não há espaço no disco para gravar; nada foi gravado.")};
     default:
+        // No reason but that there is less of it than there should be.
+        if (erro == 0 && momento == TMomento::Conectando)
+            return {TErroBanco::NaoEhBanco, QString::fromUtf16(NaoEhBase)};
         return {
             TErroBanco::Outro,
             QStringLiteral("Falha ao ler ou gravar o arquivo do banco de dados: %1").arg(arquivo)};
@@ -219,7 +244,7 @@ TLeitura Ler(const TVetor &vetor, TMomento momento)
     if (const TItem *item = vetor.Achar(isc_not_valid_for_var))
         return LerValidacao(*item);
     if (const TItem *item = vetor.Achar(isc_io_error))
-        return LerErroDeArquivo(*item, vetor.erroDoSistema);
+        return LerErroDeArquivo(*item, ErroDoSistema(vetor), momento);
     if (vetor.Achar(isc_dsql_error) || vetor.Achar(isc_sqlerr))
         return {TErroBanco::Sintaxe, QString::fromUtf16(NaoEntendido)};
     return {TErroBanco::Outro, QStringLiteral("O banco de dados recusou a operação.")};

@@ -71,6 +71,8 @@ void PreencherParametros(TParametros &p, const TSQLConnection &conexao, bool cri
         p.Texto(isc_dpb_password, conexao.Password.toUtf8());
     }
     if (criar) {
+        // Without this the engine drops an existing database of that name first.
+        p.Inteiro(isc_dpb_overwrite, 0);
         p.Inteiro(isc_dpb_page_size, PaginaDeBancoNovo);
         p.Texto(isc_dpb_set_db_charset, "ISO8859_1");
     }
