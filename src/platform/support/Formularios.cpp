@@ -14,7 +14,7 @@ TForm *NameToForm(const QString &nome)
     for (auto i = todos.crbegin(); i != todos.crend(); ++i) {
         if ((*i)->objectName().compare(nome, Qt::CaseInsensitive) != 0)
             continue;
-        if ((*i)->isVisible())
+        if (!(*i)->isHidden())
             return *i;
         if (!escondido)
             escondido = *i;
