@@ -5,6 +5,8 @@
 #include <exception>
 #include <functional>
 
+class QWidget;
+
 namespace ficha
 {
 
@@ -30,6 +32,8 @@ struct TServicos {
     std::function<void(std::exception_ptr erro)> ReportarErro;
     /** Opens an address in the desktop's own program. */
     std::function<void(const QString &endereco)> AbrirBrowser;
+    /** Sets the printer up, over the screen that asks for it. */
+    std::function<void(QWidget *dono)> ConfigurarImpressao;
 };
 
 /** The installed services of the process. */
