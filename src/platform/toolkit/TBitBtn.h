@@ -68,7 +68,7 @@ private:
     QMetaObject::Connection mudanca;
     Kind kind = bkCustom;
     int modalResult = 0;
-    bool cancel = false;
+    bool cancel = false, escondidoPelaAcao = false;
     QString glyph;
 };
 

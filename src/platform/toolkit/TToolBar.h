@@ -71,6 +71,7 @@ private:
     friend class TToolBar;
     void Sincronizar();
     TToolBar *Barra() const;
+    QIcon Figura() const;
 
     QPointer<TAction> acao;
     QMetaObject::Connection mudanca;
@@ -148,7 +149,7 @@ private:
     QSize Dispor(int largura, bool mover) const;
 
     int buttonWidth = 23, buttonHeight = 22, indent = 0;
-    bool showCaptions = false, list = false, wrapable = true;
+    bool showCaptions = false, list = false, wrapable = true, ajusteAgendado = false;
     QPointer<TImageList> imagens, desabilitadas;
     QMetaObject::Connection mudanca, mudancaDes;
 };

@@ -1,0 +1,474 @@
+#include "platform/toolkit/TForm.h"
+
+#include "platform/toolkit/Evento.h"
+#include "platform/toolkit/Foco.h"
+#include "platform/toolkit/Layout.h"
+#include "platform/toolkit/TBitBtn.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPushButton>
+
+namespace ficha
+{
+
+namespace
+{
+
+QList<TForm *> &Vivos()
+{
+    static QList<TForm *> vivos;
+    return vivos;
+}
+
+QPointer<TForm> &Ativo()
+{
+    static QPointer<TForm> ativo;
+    return ativo;
+}
+
+Qt::WindowFlags JanelaPara(TForm::BorderStyle borda, bool sobreTudo)
+{
+    const Qt::WindowFlags fechavel = Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                     Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    Qt::WindowFlags flags = Qt::Window;
+    if (borda == TForm::bsNone)
+        flags = Qt::Window | Qt::FramelessWindowHint;
+    else if (borda == TForm::bsSingle)
+        flags =
+            fechavel | Qt::Window | Qt::WindowMinimizeButtonHint | Qt::MSWindowsFixedSizeDialogHint;
+    else if (borda == TForm::bsDialog)
+        flags = fechavel | Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint;
+    else if (borda == TForm::bsToolWindow)
+        flags = fechavel | Qt::Tool | Qt::MSWindowsFixedSizeDialogHint;
+    else if (borda == TForm::bsSizeToolWin)
+        flags = fechavel | Qt::Tool;
+    return sobreTudo ? flags | Qt::WindowStaysOnTopHint : flags;
+}
+
+} // namespace
+
+TForm::TForm(TChave)
+{
+    Vivos() << this;
+}
+
+TForm::~TForm()
+{
+    Destruindo();
+    Vivos().removeAll(this);
+    if (laco)
+        laco->exit();
+}
+
+void TForm::Create(QWidget *owner)
+{
+    setParent(owner, JanelaPara(borda, sobreTudo));
+    if (objectName().isEmpty())
+        setObjectName(QString::fromLatin1(metaObject()->className())
+                          .section(QStringLiteral("::"), -1)
+                          .mid(1));
+    CarregarLayouts(this);
+    PegarComponentes();
+    criado = true;
+    FormCreate(this);
+}
+
+void TForm::SetCaption(const QString &texto)
+{
+    if (texto != windowTitle())
+        setWindowTitle(texto);
+}
+
+void TForm::SetBorderStyle(BorderStyle v)
+{
+    borda = v;
+    AplicarJanela();
+}
+
+void TForm::SetStayOnTop(bool v)
+{
+    sobreTudo = v;
+    AplicarJanela();
+}
+
+void TForm::AplicarJanela()
+{
+    if (!isWindow())
+        return;
+    const bool visivel = isVisible();
+    setWindowFlags(JanelaPara(borda, sobreTudo));
+    if (visivel)
+        show();
+}
+
+TColor TForm::GetColor() const
+{
+    return TColor::DeQColor(palette().color(QPalette::Window));
+}
+
+void TForm::SetColor(TColor cor)
+{
+    QPalette paleta = palette();
+    paleta.setColor(QPalette::Window, cor.ParaQColor());
+    setPalette(paleta);
+    setAutoFillBackground(true);
+}
+
+void TForm::Show()
+{
+    show();
+    if (QMdiSubWindow *sub = SubJanela()) {
+        sub->show();
+        if (sub->mdiArea())
+            sub->mdiArea()->setActiveSubWindow(sub);
+        return;
+    }
+    raise();
+    activateWindow();
+}
+
+void TForm::Hide()
+{
+    if (QMdiSubWindow *sub = SubJanela())
+        sub->hide();
+    hide();
+}
+
+bool TForm::Close()
+{
+    if (laco) {
+        if (resultado == mrNone)
+            SetModalResult(mrCancel);
+        return false;
+    }
+    return close();
+}
+
+void TForm::Release()
+{
+    if (liberado)
+        return;
+    liberado = true;
+    QMdiSubWindow *sub = SubJanela();
+    Hide();
+    deleteLater();
+    if (sub)
+        sub->deleteLater();
+}
+
+int TForm::ShowModal()
+{
+    if (laco)
+        return mrNone;
+    const QPointer<TForm> vivo = this;
+    QEventLoop espera;
+    laco = &espera;
+    resultado = mrNone;
+    if (isVisible()) {
+        laco = nullptr;
+        hide();
+        laco = &espera;
+    }
+    setWindowModality(Qt::ApplicationModal);
+    show();
+    raise();
+    activateWindow();
+    if (vivo && laco)
+        espera.exec(QEventLoop::DialogExec);
+    if (!vivo)
+        return mrCancel;
+    laco = nullptr;
+    if (!liberado)
+        hide();
+    setWindowModality(Qt::NonModal);
+    return resultado == mrNone ? mrCancel : resultado;
+}
+
+void TForm::SetModalResult(int valor)
+{
+    resultado = valor;
+    if (laco && valor != mrNone)
+        QMetaObject::invokeMethod(
+            this, [this] { VerificarModal(); }, Qt::QueuedConnection);
+}
+
+/** Ends the modal state once its result stands, unless the form refuses. */
+void TForm::VerificarModal()
+{
+    if (!laco || resultado == mrNone || fechando)
+        return;
+    const QPointer<TForm> vivo = this;
+    fechando = true;
+    const bool pode = ConsultarFechamento();
+    TCloseAction acao = caHide;
+    if (vivo && pode)
+        Protegido([&] { FormClose(this, acao); });
+    if (!vivo)
+        return;
+    fechando = false;
+    if (!pode || acao == caNone) {
+        resultado = mrNone;
+        return;
+    }
+    QEventLoop *espera = laco;
+    if (acao == caFree)
+        Release();
+    if (espera)
+        espera->exit();
+}
+
+QWidget *TForm::ActiveControl() const
+{
+    QWidget *ativo = ControleAtivo(this);
+    return ativo && ativo != this && isAncestorOf(ativo) ? ativo : nullptr;
+}
+
+void TForm::SetActiveControl(QWidget *controle)
+{
+    controle->setFocus(Qt::OtherFocusReason);
+}
+
+bool TForm::SelectNext(QWidget *controle, bool paraFrente)
+{
+    QWidget *inicio = controle ? controle : this;
+    const auto passo = [paraFrente](QWidget *w) {
+        return paraFrente ? w->nextInFocusChain() : w->previousInFocusChain();
+    };
+    for (QWidget *w = passo(inicio); w && w != inicio; w = passo(w)) {
+        const bool fora = controle && controle->isAncestorOf(w);
+        if (fora || !isAncestorOf(w) || w->focusProxy() || !(w->focusPolicy() & Qt::TabFocus) ||
+            !w->isEnabled() || !w->isVisibleTo(this))
+            continue;
+        w->setFocus(paraFrente ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return true;
+    }
+    return false;
+}
+
+QPushButton *TForm::BotaoQue(bool cancela) const
+{
+    for (QPushButton *botao : findChildren<QPushButton *>()) {
+        const auto *com = qobject_cast<const TBitBtn *>(botao);
+        const bool serve = cancela ? com && com->GetCancel() : botao->isDefault();
+        if (serve && botao->isEnabled() && botao->isVisible() && botao->window() == window())
+            return botao;
+    }
+    return nullptr;
+}
+
+bool TForm::ApertarDefault()
+{
+    QPushButton *botao = BotaoQue(false);
+    if (botao)
+        botao->click();
+    return botao;
+}
+
+bool TForm::ApertarCancel()
+{
+    QPushButton *botao = BotaoQue(true);
+    if (botao)
+        botao->click();
+    return botao;
+}
+
+QMdiSubWindow *TForm::SubJanela() const
+{
+    return qobject_cast<QMdiSubWindow *>(parentWidget());
+}
+
+const QList<TForm *> &TForm::Formularios()
+{
+    return Vivos();
+}
+
+TForm *TForm::FormularioAtivo()
+{
+    return Ativo();
+}
+
+TForm *TForm::FormularioDe(const QWidget *controle)
+{
+    auto *w = const_cast<QWidget *>(controle);
+    while (w && !qobject_cast<TForm *>(w))
+        w = w->parentWidget();
+    return static_cast<TForm *>(w);
+}
+
+void TForm::PegarComponentes() {}
+
+void TForm::FormCreate(QObject *) {}
+
+void TForm::FormShow(QObject *) {}
+
+void TForm::FormHide(QObject *) {}
+
+void TForm::FormActivate(QObject *) {}
+
+void TForm::FormDeactivate(QObject *) {}
+
+void TForm::FormCloseQuery(QObject *, bool &) {}
+
+void TForm::FormClose(QObject *, TCloseAction &) {}
+
+void TForm::FormDestroy(QObject *) {}
+
+void TForm::FormResize(QObject *) {}
+
+void TForm::Destruindo() noexcept
+{
+    if (!criado || destruido)
+        return;
+    destruido = true;
+    Protegido([this] { FormDestroy(this); });
+}
+
+bool TForm::event(QEvent *evento)
+{
+    switch (evento->type()) {
+    case QEvent::DeferredDelete:
+        Destruindo();
+        break;
+    case QEvent::ParentChange:
+        LigarSubJanela();
+        break;
+    case QEvent::WindowActivate:
+        if (const QMdiSubWindow *sub = SubJanela()) {
+            if (sub->mdiArea() && sub->mdiArea()->activeSubWindow() == sub)
+                TornarAtivo();
+        } else if (isWindow()) {
+            const auto *area = findChild<QMdiArea *>();
+            if (!area || !area->activeSubWindow())
+                TornarAtivo();
+        }
+        break;
+    default:
+        break;
+    }
+    return QWidget::event(evento);
+}
+
+void TForm::showEvent(QShowEvent *evento)
+{
+    QWidget::showEvent(evento);
+    if (evento->spontaneous() || !criado)
+        return;
+    LigarSubJanela();
+    Protegido([this] { FormShow(this); });
+}
+
+void TForm::hideEvent(QHideEvent *evento)
+{
+    QWidget::hideEvent(evento);
+    if (evento->spontaneous())
+        return;
+    const QPointer<TForm> vivo = this;
+    if (Ativo() == this) {
+        Ativo() = nullptr;
+        Protegido([this] { FormDeactivate(this); });
+    }
+    if (vivo)
+        Protegido([this] { FormHide(this); });
+    if (vivo && laco)
+        laco->exit();
+}
+
+void TForm::closeEvent(QCloseEvent *evento)
+{
+    if (laco) {
+        evento->ignore();
+        Close();
+        return;
+    }
+    evento->setAccepted(Fechar());
+}
+
+bool TForm::ConsultarFechamento()
+{
+    bool pode = true;
+    return Protegido([&] { FormCloseQuery(this, pode); }) && pode;
+}
+
+/** Asks and closes; answers whether the form goes away. */
+bool TForm::Fechar()
+{
+    if (fechando)
+        return false;
+    const QPointer<TForm> vivo = this;
+    fechando = true;
+    const bool pode = ConsultarFechamento();
+    TCloseAction acao = pode ? AcaoAoFechar : caNone;
+    if (vivo && pode)
+        Protegido([&] { FormClose(this, acao); });
+    if (!vivo)
+        return true;
+    fechando = false;
+    if (acao == caMinimize)
+        (SubJanela() ? static_cast<QWidget *>(SubJanela()) : this)->showMinimized();
+    else if (acao == caFree)
+        Release();
+    else if (acao == caHide)
+        Hide();
+    return acao == caHide || acao == caFree;
+}
+
+void TForm::resizeEvent(QResizeEvent *evento)
+{
+    QWidget::resizeEvent(evento);
+    if (criado)
+        Protegido([this] { FormResize(this); });
+}
+
+void TForm::keyPressEvent(QKeyEvent *evento)
+{
+    const bool nua = !(evento->modifiers() & ~Qt::KeypadModifier);
+    const int tecla = evento->key();
+    bool usada = false;
+    if (nua && (tecla == Qt::Key_Return || tecla == Qt::Key_Enter)) {
+        auto *botao = qobject_cast<QPushButton *>(focusWidget());
+        if (botao && botao->isEnabled())
+            botao->click();
+        usada = botao || ApertarDefault();
+    } else if (nua && tecla == Qt::Key_Escape) {
+        usada = ApertarCancel();
+    }
+    // The click may have destroyed the form: only the event is touched from here on.
+    if (usada)
+        evento->accept();
+    else
+        QWidget::keyPressEvent(evento);
+}
+
+/** A form that came into a sub window follows its activation and its end. */
+void TForm::LigarSubJanela()
+{
+    QMdiSubWindow *sub = SubJanela();
+    if (!sub || sub == ligada || !sub->mdiArea())
+        return;
+    ligada = sub;
+    // FormClose decides what becomes of the form, and of its sub window with it.
+    sub->setAttribute(Qt::WA_DeleteOnClose, false);
+    connect(sub->mdiArea(), &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow *ativa) {
+        if (ativa && ativa == SubJanela())
+            TornarAtivo();
+    });
+}
+
+void TForm::TornarAtivo()
+{
+    if (Ativo() == this || !criado)
+        return;
+    const QPointer<TForm> antes = Ativo();
+    const QPointer<TForm> vivo = this;
+    Ativo() = this;
+    if (antes)
+        Protegido([&] { antes->FormDeactivate(antes); });
+    if (vivo && Ativo() == this)
+        Protegido([this] { FormActivate(this); });
+}
+
+} // namespace ficha
