@@ -1,0 +1,402 @@
+#include "platform/toolkit/TComboBox.h"
+
+#include "platform/toolkit/AlturaDeItem.h"
+#include "platform/toolkit/Cores.h"
+#include "platform/toolkit/EntradaDeTexto.h"
+#include "platform/toolkit/Evento.h"
+#include "platform/toolkit/Layout.h"
+#include "platform/toolkit/TCustomEdit.h"
+
+#include <QAbstractItemView>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QWheelEvent>
+
+namespace ficha
+{
+
+FICHA_REGISTRAR_WIDGET(TComboBox)
+
+/** The edit inside: the gate of every edit, and the combo box learns of what was typed. */
+class TComboLineEdit : public TCustomEdit
+{
+public:
+    explicit TComboLineEdit(TComboBox *dono) : TCustomEdit(dono), combo(dono) {}
+
+protected:
+    void AposDigitar() override { combo->Digitado(); }
+
+private:
+    TComboBox *combo;
+};
+
+/** While the user's event runs; at its end what changed is announced, once. */
+class TComboBox::TEscopo
+{
+public:
+    explicit TEscopo(TComboBox *de) : combo(de)
+    {
+        if (combo->escopos++ == 0)
+            combo->anunciado = combo->Estado();
+    }
+    ~TEscopo()
+    {
+        if (combo && --combo->escopos == 0)
+            combo->AnunciarSeMudou();
+    }
+    TEscopo(const TEscopo &) = delete;
+    TEscopo &operator=(const TEscopo &) = delete;
+
+private:
+    QPointer<TComboBox> combo;
+};
+
+TComboBox::TComboBox(QWidget *owner) : QComboBox(owner)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setInsertPolicy(QComboBox::NoInsert);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(1);
+    connect(this, &QComboBox::currentIndexChanged, this, [this] { indiceVelho = true; });
+    connect(this, &QComboBox::activated, this, [this] {
+        if (escopos == 0)
+            AnunciarSeMudou();
+    });
+    MontarEdit();
+}
+
+QString TComboBox::GetText() const
+{
+    return currentText();
+}
+
+void TComboBox::SetText(const QString &texto)
+{
+    const int exato = findText(texto, Qt::MatchFixedString | Qt::MatchCaseSensitive);
+    if (!isEditable()) {
+        SetItemIndex(exato >= 0 ? exato : IndexOf(texto));
+    } else if (exato >= 0) {
+        SetItemIndex(exato);
+    } else {
+        setCurrentIndex(-1);
+        setEditText(texto);
+        indiceVelho = true;
+    }
+}
+
+int TComboBox::GetItemIndex() const
+{
+    if (!isEditable())
+        return currentIndex();
+    if (indiceVelho) {
+        const QString texto = currentText();
+        const int atual = currentIndex();
+        const bool mesmo = atual >= 0 && itemText(atual) == texto;
+        indice = mesmo ? atual : texto.isEmpty() ? -1 : IndexOf(texto);
+        indiceVelho = false;
+    }
+    return indice;
+}
+
+void TComboBox::SetItemIndex(int i)
+{
+    const int valido = i >= 0 && i < count() ? i : -1;
+    setCurrentIndex(valido);
+    // The list's index does not move when only the typed text had left the item.
+    if (isEditable() && currentText() != itemText(valido))
+        setEditText(itemText(valido));
+    indiceVelho = true;
+}
+
+QStringList TComboBox::GetItems() const
+{
+    QStringList textos;
+    textos.reserve(count());
+    for (int i = 0; i < count(); ++i)
+        textos.append(itemText(i));
+    return textos;
+}
+
+void TComboBox::SetItems(const QStringList &textos)
+{
+    Clear();
+    addItems(textos);
+    SetItemIndex(-1);
+}
+
+int TComboBox::AddItem(const QString &texto, std::intptr_t objeto)
+{
+    // The list selects the first item that it gets by itself.
+    const bool primeiro = count() == 0;
+    const QString antes = currentText();
+    addItem(texto, QVariant::fromValue(qlonglong(objeto)));
+    if (primeiro) {
+        setCurrentIndex(-1);
+        if (isEditable())
+            setEditText(antes);
+    }
+    indiceVelho = true;
+    return count() - 1;
+}
+
+void TComboBox::Clear()
+{
+    clear();
+    if (isEditable())
+        clearEditText();
+    indiceVelho = true;
+}
+
+std::intptr_t TComboBox::GetObjeto(int i) const
+{
+    return std::intptr_t(itemData(i).toLongLong());
+}
+
+void TComboBox::SetObjeto(int i, std::intptr_t objeto)
+{
+    setItemData(i, QVariant::fromValue(qlonglong(objeto)));
+}
+
+int TComboBox::IndexOf(const QString &texto) const
+{
+    for (int i = 0; i < count(); ++i) {
+        if (itemText(i).compare(texto, Qt::CaseInsensitive) == 0)
+            return i;
+    }
+    return -1;
+}
+
+int TComboBox::IndexOfObjeto(std::intptr_t objeto) const
+{
+    for (int i = 0; i < count(); ++i) {
+        if (GetObjeto(i) == objeto)
+            return i;
+    }
+    return -1;
+}
+
+TComboBox::Style TComboBox::GetStyle() const
+{
+    return isEditable() ? csDropDown : csDropDownList;
+}
+
+void TComboBox::SetStyle(Style v)
+{
+    if (v == GetStyle())
+        return;
+    const int atual = GetItemIndex();
+    if (v == csDropDown)
+        MontarEdit();
+    else
+        setEditable(false);
+    SetItemIndex(atual);
+}
+
+void TComboBox::SetItemHeight(int pixels)
+{
+    itemHeight = pixels > 0 ? pixels : 0;
+    setItemDelegate(new TAlturaDeItem(itemHeight, this));
+}
+
+void TComboBox::SetMaxLength(int n)
+{
+    maxLength = n > 0 ? n : 0;
+    if (auto *edit = dynamic_cast<TComboLineEdit *>(lineEdit()))
+        edit->SetMaxLength(maxLength);
+}
+
+TColor TComboBox::GetColor() const
+{
+    return CorDoWidget(*this, QPalette::Base);
+}
+
+void TComboBox::SetColor(TColor cor)
+{
+    SetCorDoWidget(*this, QPalette::Base, cor);
+    if (lineEdit())
+        SetCorDoWidget(*lineEdit(), QPalette::Base, cor);
+}
+
+bool TComboBox::DroppedDown() const
+{
+    return listaPreparada && view()->isVisible();
+}
+
+void TComboBox::SetDroppedDown(bool aberta)
+{
+    if (aberta && !DroppedDown())
+        showPopup();
+    else if (!aberta && DroppedDown())
+        hidePopup();
+}
+
+void TComboBox::SelectAll()
+{
+    if (lineEdit())
+        lineEdit()->selectAll();
+}
+
+void TComboBox::showPopup()
+{
+    const QPointer<TComboBox> vivo(this);
+    if (OnDropDown)
+        Protegido([this] { OnDropDown(this); });
+    if (!vivo)
+        return;
+    if (!listaPreparada) {
+        view()->installEventFilter(this);
+        listaPreparada = true;
+    }
+    if (escopos == 0)
+        anunciado = Estado();
+    QComboBox::showPopup();
+    if (vivo)
+        AcompanharLista();
+}
+
+void TComboBox::hidePopup()
+{
+    const bool aberta = DroppedDown();
+    QComboBox::hidePopup();
+    if (aberta && OnCloseUp)
+        Protegido([this] { OnCloseUp(this); });
+}
+
+bool TComboBox::eventFilter(QObject *alvo, QEvent *evento)
+{
+    if (evento->type() == QEvent::KeyPress && listaPreparada && alvo == view() &&
+        TeclaNaLista(static_cast<QKeyEvent *>(evento)))
+        return true;
+    return QComboBox::eventFilter(alvo, evento);
+}
+
+void TComboBox::keyPressEvent(QKeyEvent *evento)
+{
+    const TEscopo escopo(this);
+    QComboBox::keyPressEvent(evento);
+}
+
+void TComboBox::inputMethodEvent(QInputMethodEvent *evento)
+{
+    const TEscopo escopo(this);
+    QComboBox::inputMethodEvent(evento);
+}
+
+void TComboBox::wheelEvent(QWheelEvent *evento)
+{
+    evento->ignore();
+}
+
+void TComboBox::MontarEdit()
+{
+    auto *edit = new TComboLineEdit(this);
+    setLineEdit(edit);
+    // Completion is ours: the list must know which item the text is.
+    setCompleter(nullptr);
+    edit->SetMaxLength(maxLength);
+    connect(edit, &QLineEdit::textChanged, this, [this] { indiceVelho = true; });
+    connect(edit, &QLineEdit::textEdited, this, [this] {
+        // Outside of a key: pasted, dropped, undone.
+        if (escopos == 0)
+            Protegido([this] {
+                anunciado = {QString(), -2};
+                AnunciarSeMudou();
+            });
+    });
+}
+
+void TComboBox::AnunciarSeMudou()
+{
+    TEstado agora = Estado();
+    if (agora == anunciado)
+        return;
+    anunciado = std::move(agora);
+    const QPointer<TComboBox> vivo(this);
+    AcompanharLista();
+    if (OnChange)
+        Protegido([this] { OnChange(this); });
+    if (vivo)
+        Q_EMIT UserChanged();
+}
+
+void TComboBox::Digitado()
+{
+    const TEscopo escopo(this);
+    if (autoComplete)
+        Completar();
+    if (autoDropDown && !DroppedDown() && isVisible())
+        showPopup();
+    if (autoCloseUp && DroppedDown() && !lineEdit()->hasSelectedText()) {
+        const int unico = PrimeiroComecadoPor(currentText());
+        if (unico >= 0 && itemText(unico).size() == currentText().size() &&
+            PrimeiroComecadoPor(currentText(), unico + 1) < 0)
+            hidePopup();
+    }
+}
+
+/** Fills the text up to the first item that begins so, the added part selected. */
+void TComboBox::Completar()
+{
+    const QString digitado = currentText();
+    if (digitado.isEmpty() || lineEdit()->cursorPosition() != digitado.size())
+        return;
+    const int i = PrimeiroComecadoPor(digitado);
+    if (i < 0)
+        return;
+    const QString texto = itemText(i);
+    if (texto != digitado)
+        setEditText(texto);
+    lineEdit()->setSelection(int(texto.size()), -int(texto.size() - digitado.size()));
+    if (texto.size() == digitado.size())
+        lineEdit()->end(false);
+}
+
+int TComboBox::PrimeiroComecadoPor(const QString &texto, int desde) const
+{
+    for (int i = desde; i < count(); ++i) {
+        if (itemText(i).startsWith(texto, Qt::CaseInsensitive))
+            return i;
+    }
+    return -1;
+}
+
+/** In the open list the item of the text is the current one, none for a text of no item: Enter
+ * there must not pick what the user has typed away from. */
+void TComboBox::AcompanharLista()
+{
+    if (!DroppedDown() || !isEditable())
+        return;
+    const int i = GetItemIndex();
+    view()->setCurrentIndex(i >= 0 ? model()->index(i, modelColumn(), rootModelIndex())
+                                   : QModelIndex());
+}
+
+/** The open list has the keyboard; what edits the text goes on to the edit. */
+bool TComboBox::TeclaNaLista(QKeyEvent *evento)
+{
+    if (!isEditable())
+        return false;
+    const int tecla = evento->key();
+    const bool sai = tecla == Qt::Key_Tab || tecla == Qt::Key_Backtab;
+    const bool entra = tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
+    const bool edita = EhTeclaDeTexto(*evento) || tecla == Qt::Key_Backspace ||
+                       tecla == Qt::Key_Delete || tecla == Qt::Key_Left || tecla == Qt::Key_Right ||
+                       tecla == Qt::Key_Home || tecla == Qt::Key_End ||
+                       evento->matches(QKeySequence::Paste);
+    if (!edita && !sai && !(entra && !view()->currentIndex().isValid()))
+        return false;
+    const QPointer<TComboBox> vivo(this);
+    if (sai && view()->currentIndex().isValid() && view()->currentIndex().row() != GetItemIndex()) {
+        const TEscopo escopo(this);
+        SetItemIndex(view()->currentIndex().row());
+    }
+    if (vivo && (sai || entra))
+        hidePopup();
+    if (vivo)
+        QCoreApplication::sendEvent(this, evento);
+    evento->accept();
+    return true;
+}
+
+} // namespace ficha
