@@ -1,6 +1,7 @@
 #include "platform/database/TSQLConnection.h"
 
 #include "platform/database/ConexD.h"
+#include "platform/database/TTravas.h"
 #include "support/BancoFilho.h"
 #include "support/BancoTemp.h"
 
@@ -320,6 +321,32 @@ TEST_F(TSQLConnectionTest, ListsHoldNoGarbageCollectionBack)
     EXPECT_LE(atraso, 5.0);
 }
 
+TEST_F(TSQLConnectionTest, NothingOfTheEngineIsHeldBetweenActions)
+{
+    TSQLQuery lista;
+    lista.SetSQLConnection(&banco.Conexao());
+    lista.SetSQL(QStringLiteral("select * from grupo"));
+    lista.Open();
+    EXPECT_FALSE(lista.Plano().isEmpty());
+    EXPECT_THROW(banco.Executar(QStringLiteral("insert into grupo (grupo_cod) values (1)")),
+                 EDatabaseError);
+    banco.Executar(QStringLiteral("update grupo set valor = 2"));
+    EXPECT_TRUE(banco.Conexao().Travas().Tentar(QStringLiteral("grupo"), QStringLiteral("1")));
+    banco.Conexao().Travas().Liberar(QStringLiteral("grupo"), QStringLiteral("1"));
+    TSQLConnection outra;
+    outra.DatabaseName = banco.Arquivo();
+    outra.Open();
+    const QString doOutro = QStringLiteral(" where mon$attachment_id <> current_connection and "
+                                           "mon$attachment_id in (select mon$attachment_id from "
+                                           "mon$attachments where mon$system_flag = 0)");
+    EXPECT_EQ(ValorDoBanco(outra, QStringLiteral("select count(*) from mon$statements") + doOutro),
+              Variant(0.0));
+    // The long transaction that reads is the only one.
+    EXPECT_EQ(
+        ValorDoBanco(outra, QStringLiteral("select count(*) from mon$transactions") + doOutro),
+        Variant(1.0));
+}
+
 TEST_F(TSQLConnectionTest, ClosedConnectionRefusesUntilItIsOpenedAgain)
 {
     banco.Conexao().Close();
@@ -577,7 +604,6 @@ TEST(Filho, DISABLED_EncherODisco)
                     QStringLiteral("insert into grupo (grupo_cod, nome) values (%1, '%1')").arg(i));
         });
     } catch (const EDatabaseError &erro) {
-        fprintf(stderr, "%s\n", erro.what());
         ::_exit(int(erro.Tipo));
     }
     ::_exit(99);

@@ -3,7 +3,9 @@
 #include "platform/database/ConexD.h"
 #include "platform/database/PrepararBanco.h"
 
+#include <QDir>
 #include <QFile>
+#include <QStorageInfo>
 
 #include <map>
 
@@ -16,7 +18,7 @@ namespace
 /** The database made from a script, closed and ready to be copied. */
 QString Modelo(const QString &script)
 {
-    static const QTemporaryDir pasta;
+    static const QTemporaryDir pasta(PastaDeBancos());
     static std::map<QString, QString> prontos;
     QString &arquivo = prontos[script];
     if (arquivo.isEmpty()) {
@@ -32,7 +34,17 @@ QString Modelo(const QString &script)
 
 } // namespace
 
-TBancoTemp::TBancoTemp(const QString &script) : antes(ConexD().SQLConnection)
+QString PastaDeBancos()
+{
+    constexpr qint64 Folga = qint64(512) * 1024 * 1024;
+    const QFileInfo memoria(QStringLiteral("/dev/shm"));
+    const bool cabe = memoria.isDir() && memoria.isWritable() &&
+                      QStorageInfo(memoria.filePath()).bytesAvailable() > Folga;
+    return (cabe ? memoria.filePath() : QDir::tempPath()) + QStringLiteral("/ficha-teste-XXXXXX");
+}
+
+TBancoTemp::TBancoTemp(const QString &script)
+    : pasta(PastaDeBancos()), antes(ConexD().SQLConnection)
 {
     conexao.DatabaseName = pasta.filePath(QStringLiteral("banco.fdb"));
     if (!QFile::copy(Modelo(script), conexao.DatabaseName))

@@ -34,6 +34,10 @@ private:
     TSQLConnection *antes;
 };
 
+/** Where test databases are made: in memory (/dev/shm) when there is room, for every commit waits
+ * for the disk; else in the temporary folder. A template for QTemporaryDir. */
+QString PastaDeBancos();
+
 /** First column of the first row of a select on some connection; Null when there is no row. */
 Variant ValorDoBanco(TSQLConnection &conexao, const QString &sql);
 

@@ -1,6 +1,7 @@
 #include "support/ServidorFirebird.h"
 
 #include "platform/database/MotorFirebird.h"
+#include "support/BancoTemp.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
@@ -100,7 +101,7 @@ QString TServidorFirebird::Programa()
     return {};
 }
 
-TServidorFirebird::TServidorFirebird() : porta(PortaLivre())
+TServidorFirebird::TServidorFirebird() : pasta(PastaDeBancos()), porta(PortaLivre())
 {
     PrepararRaiz();
     CriarBancoDeSeguranca();
