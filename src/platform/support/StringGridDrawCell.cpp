@@ -47,17 +47,20 @@ TAspecto AspectoDaCelula(const TStringGrid &grid, int col, int row, unsigned est
     return a;
 }
 
+constexpr int FolgaADireita = 3; // numbers would touch the text of the next column
+
 /** Bold, unless only the plain text fits: a title is better thin than cut. */
-void EscreverNegrito(QPainter &p, const QRect &area, QStringView texto, Qt::Alignment alinhamento,
-                     bool quebrar)
+void EscreverNegrito(QPainter &p, const QRect &area, QAnyStringView texto,
+                     Qt::Alignment alinhamento, bool quebrar)
 {
     const QFont normal = p.font();
     QFont negrito = normal;
     negrito.setBold(true);
+    const auto cabe = [&](const QFont &fonte) {
+        return QFontMetrics(fonte).horizontalAdvance(texto.toString()) <= area.width();
+    };
     const bool curto = texto.size() < area.width();
-    const bool cabe =
-        curto && QFontMetrics(negrito).horizontalAdvance(texto.toString()) <= area.width();
-    if (cabe || quebrar)
+    if (quebrar || !curto || cabe(negrito) || !cabe(normal))
         p.setFont(negrito);
     EscreverNaCelula(p, area, texto, alinhamento, quebrar);
     p.setFont(normal);
@@ -79,7 +82,7 @@ void PintarMoldura(QPainter &p, const QRect &rect, TColor cor)
 {
     p.setPen(QPen(cor.ParaQColor(), 1, Qt::DotLine));
     p.setBrush(Qt::NoBrush);
-    p.drawRect(rect.adjusted(1, 1, -2, -2));
+    p.drawRect(rect.adjusted(0, 0, -1, -1));
 }
 
 /** Paints the picture at the left of an area and answers what is left for the text. */
@@ -124,14 +127,14 @@ void StringGridDrawCell(TStringGrid *grid, QPainter &p, int col, int row, const 
                         bool alinharPeloConteudo, bool quebrarLinhas, TColor corTexto,
                         const QString &marcador)
 {
-    static QString guardado;
-    grid->CellTexto(col, row, guardado);
-    QStringView texto = guardado;
+    QAnyStringView texto = grid->CellTexto(col, row);
     const bool titulo = estado & gdFixa;
     const bool marcada = !titulo && EhMarcado(texto, marcador);
     const Qt::Alignment lado =
         alinharPeloConteudo && colsInfo ? colsInfo->Alinhamento(col) : Qt::AlignLeft;
     QRect area = rect.adjusted(margemX, margemY, -margemX, -margemY);
+    if (lado == Qt::AlignRight)
+        area.adjust(0, 0, -FolgaADireita, 0);
 
     p.save();
     p.setClipRect(rect, Qt::IntersectClip);
@@ -148,7 +151,7 @@ void StringGridDrawCell(TStringGrid *grid, QPainter &p, int col, int row, const 
             area = PintarFigura(p, area, *figura, margemX);
     }
     if (marcada)
-        texto = texto.mid(marcador.size());
+        texto = texto.visit([&](auto t) { return QAnyStringView(t.sliced(marcador.size())); });
     p.setPen(a.texto.ParaQColor());
     if (marcada && texto.isEmpty())
         PintarSeparador(p, rect, a.texto);

@@ -31,7 +31,7 @@ struct TCoresDaGrade {
     /** Marked cells. */
     TColor Destaque = TColor::DeRGB(0xC9, 0xD6, 0xE2);
     TColor TextoDoDestaque = TColor::DeRGB(0x1F, 0x3B, 0x57);
-    TColor TextoDesabilitado = TColor::DeRGB(0x80, 0x80, 0x80);
+    TColor TextoDesabilitado = TColor::DeRGB(0x6D, 0x6D, 0x6D);
 };
 
 /** The one instance. */
@@ -55,7 +55,8 @@ bool EhMarcado(QAnyStringView texto, QStringView marcador);
  * @param p, col, row, rect, estado as OnDrawCell hands them over
  * @param figura a picture for the cells of one column, null for none; not owned
  * @param colFigura the column that shows the picture, before its text; -1 for no column
- * @param margemX, margemY pixels kept free left and right, above and below of the text
+ * @param margemX, margemY pixels kept free left and right, above and below of the text;
+ * right-aligned texts keep three more from the next column
  * @param faixas banded rows; without it every row has the grid's own colour
  * @param colsInfo what the columns hold; null counts as text columns
  * @param alinharPeloConteudo align as colsInfo says; without it everything is left-aligned

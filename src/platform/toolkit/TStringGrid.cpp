@@ -170,13 +170,12 @@ QAnyStringView TStringGrid::CellTexto(int col, int row) const
 
 void TStringGrid::CellTexto(int col, int row, QString &saida) const
 {
+    saida.resize(0);
     CellTexto(col, row).visit([&saida](auto texto) {
-        saida.resize(texto.size());
-        if constexpr (std::is_same_v<decltype(texto), QLatin1StringView>)
-            std::transform(texto.begin(), texto.end(), saida.begin(),
-                           [](char c) { return QLatin1Char(c); });
-        else if constexpr (std::is_same_v<decltype(texto), QStringView>)
-            std::copy(texto.begin(), texto.end(), saida.begin());
+        if constexpr (std::is_same_v<decltype(texto), QUtf8StringView>)
+            saida.append(texto.toString());
+        else
+            saida.append(texto);
     });
 }
 
@@ -634,6 +633,13 @@ int TStringGrid::TPrivado::ColunaVizinha(int col, int sentido) const
     return col;
 }
 
+/** How many columns the user scrolls over to have col as the first. */
+int TStringGrid::TPrivado::ColunasAntesDe(int col) const
+{
+    return int(std::count_if(larguras.begin() + fixedCols, larguras.begin() + col,
+                             [](int largura) { return largura > 0; }));
+}
+
 int TStringGrid::TPrivado::PrimeiraColuna() const
 {
     return larguras[std::size_t(fixedCols)] > 0 ? fixedCols : ColunaVizinha(fixedCols, 1);
@@ -707,13 +713,10 @@ void TStringGrid::TPrivado::AjustarBarras()
     const QSize util = TamanhoUtil();
     const int capacidade = std::max(1, LinhasInteiras(util.height()));
     const int maxTopo = MaxTopo(capacidade), maxEsquerda = MaxEsquerda(util.width());
-    int colunas = 0;
-    for (int c = PrimeiraColuna(); c < maxEsquerda; c = ColunaVizinha(c, 1))
-        ++colunas;
     sincronizando = true;
     q->verticalScrollBar()->setRange(0, maxTopo - fixedRows);
     q->verticalScrollBar()->setPageStep(capacidade);
-    q->horizontalScrollBar()->setRange(0, colunas);
+    q->horizontalScrollBar()->setRange(0, ColunasAntesDe(maxEsquerda));
     sincronizando = false;
     MudarTopo(std::min(topo, maxTopo), std::min(esquerda, maxEsquerda));
 }
@@ -833,11 +836,9 @@ void TStringGrid::TPrivado::MostrarCelula(TGridCoord c)
     const int largura = q->viewport()->width() - LarguraFixa();
     if (c.Col < esquerda && !rowSelect)
         novaEsquerda = c.Col;
-    while (!rowSelect && novaEsquerda < c.Col &&
-           soma[std::size_t(c.Col)] + larguras[std::size_t(c.Col)] -
-                   soma[std::size_t(novaEsquerda)] >
-               largura)
-        novaEsquerda = ColunaVizinha(novaEsquerda, 1);
+    const int fim = soma[std::size_t(c.Col)] + larguras[std::size_t(c.Col)];
+    while (!rowSelect && novaEsquerda < c.Col && fim - soma[std::size_t(novaEsquerda)] > largura)
+        ++novaEsquerda;
     MudarTopo(novoTopo, novaEsquerda);
 }
 
@@ -848,15 +849,13 @@ bool TStringGrid::TPrivado::MudarTopo(int novoTopo, int novaEsquerda)
     const int maxEsquerda = mostrado ? MaxEsquerda(q->viewport()->width()) : colCount - 1;
     novoTopo = std::clamp(novoTopo, fixedRows, maxTopo);
     novaEsquerda = std::clamp(novaEsquerda, fixedCols, std::max(fixedCols, maxEsquerda));
+    if (larguras[std::size_t(novaEsquerda)] == 0)
+        novaEsquerda = ColunaVizinha(novaEsquerda, 1);
     const int linhas = novoTopo - std::exchange(topo, novoTopo);
     const int colunas = novaEsquerda - std::exchange(esquerda, novaEsquerda);
     sincronizando = true;
     q->verticalScrollBar()->setValue(topo - fixedRows);
-    int i = 0;
-    for (int c = PrimeiraColuna(); c < esquerda && ColunaVizinha(c, 1) != c;
-         c = ColunaVizinha(c, 1))
-        ++i;
-    q->horizontalScrollBar()->setValue(i);
+    q->horizontalScrollBar()->setValue(ColunasAntesDe(esquerda));
     sincronizando = false;
     if (linhas == 0 && colunas == 0)
         return true;

@@ -215,8 +215,8 @@ private:
  * text that is too long ends in an ellipsis; with quebrar it is wrapped into lines instead. What
  * cannot be seen is cut off before it is laid out, so that a text of any length costs little.
  */
-void EscreverNaCelula(QPainter &p, const QRect &area, QStringView texto, Qt::Alignment alinhamento,
-                      bool quebrar = false);
+void EscreverNaCelula(QPainter &p, const QRect &area, QAnyStringView texto,
+                      Qt::Alignment alinhamento, bool quebrar = false);
 /** Fills an area and gives it the raised edges of a title. */
 void PintarRelevo(QPainter &p, const QRect &area, const QColor &fundo);
 

@@ -2,7 +2,7 @@
 
 #include <QFontMetrics>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
+#include <QTextOption>
 
 #include <algorithm>
 #include <array>
@@ -71,44 +71,53 @@ qsizetype QuantosCabem(const QFontMetrics &medida, TAvancos &avancos, QStringVie
     return n;
 }
 
+/** The first n characters of a text, in saida. */
+void Comeco(QAnyStringView texto, qsizetype n, QString &saida)
+{
+    saida.resize(0);
+    texto.visit([&](auto t) {
+        if constexpr (std::is_same_v<decltype(t), QUtf8StringView>)
+            saida.append(t.toString().left(n));
+        else
+            saida.append(t.left(n));
+    });
+}
+
 /** The text, or its beginning and an ellipsis, in saida; what is cut is never measured whole. */
-void Encurtar(const QPainter &p, QStringView texto, int largura, QString &saida)
+void Encurtar(const QPainter &p, QAnyStringView texto, int largura, QString &saida)
 {
     const QFontMetrics medida = p.fontMetrics();
     // No character is narrower than a pixel, save marks that are drawn over others.
-    const QStringView visivel = texto.left(qsizetype(largura) * 2 + 16);
-    if (!EhLatin1(visivel)) {
-        saida = medida.elidedText(visivel.toString(), Qt::ElideRight, largura);
+    Comeco(texto, qsizetype(largura) * 2 + 16, saida);
+    if (!EhLatin1(saida)) {
+        saida = medida.elidedText(saida, Qt::ElideRight, largura);
         return;
     }
     TAvancos &avancos = AvancosDe(p.font());
-    saida.resize(0);
-    if (QuantosCabem(medida, avancos, visivel, largura) == texto.size()) {
-        saida.append(texto);
+    if (QuantosCabem(medida, avancos, saida, largura) == texto.size())
         return;
-    }
     const QChar reticencias(0x2026);
-    const qsizetype n =
-        QuantosCabem(medida, avancos, visivel, largura - medida.horizontalAdvance(reticencias));
-    saida.append(visivel.left(n));
+    saida.resize(
+        QuantosCabem(medida, avancos, saida, largura - medida.horizontalAdvance(reticencias)));
     saida.append(reticencias);
 }
 } // namespace
 
-void EscreverNaCelula(QPainter &p, const QRect &area, QStringView texto, Qt::Alignment alinhamento,
-                      bool quebrar)
+void EscreverNaCelula(QPainter &p, const QRect &area, QAnyStringView texto,
+                      Qt::Alignment alinhamento, bool quebrar)
 {
     if (texto.isEmpty() || area.width() <= 0 || area.height() <= 0)
         return;
+    static QString visivel;
     if (quebrar) {
-        const qsizetype cabem = qsizetype(area.width()) * area.height() / 8 + 16;
-        p.drawText(area, int(alinhamento) | Qt::TextWrapAnywhere | Qt::TextWordWrap,
-                   texto.left(cabem).toString());
-        return;
+        Comeco(texto, qsizetype(area.width()) * area.height() / 8 + 16, visivel);
+        QTextOption opcao(alinhamento);
+        opcao.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        p.drawText(area, visivel, opcao);
+    } else {
+        Encurtar(p, texto, area.width(), visivel);
+        p.drawText(area, int(alinhamento) | Qt::TextSingleLine, visivel);
     }
-    static QString curto;
-    Encurtar(p, texto, area.width(), curto);
-    p.drawText(area, int(alinhamento) | Qt::TextSingleLine, curto);
 }
 
 void PintarRelevo(QPainter &p, const QRect &area, const QColor &fundo)
@@ -175,7 +184,12 @@ void TStringGrid::TPrivado::PintarPadrao(QPainter &p, const QRect &ret, int col,
 {
     const QPalette &paleta = q->palette();
     const bool fixa = estado & gdFixa;
-    const bool marcada = !fixa && (estado & gdSelecionada);
+    // In a stretched range the current cell is the one that is left out.
+    const TGridRect faixa = Selecao();
+    const bool daFaixa =
+        faixa.Topo != faixa.Base || (!rowSelect && faixa.Esquerda != faixa.Direita);
+    const bool corrente = col == atual.Col && row == atual.Row;
+    const bool marcada = !fixa && (estado & gdSelecionada) && !(corrente && daFaixa);
     const auto grupo = !q->isEnabled() ? QPalette::Disabled
                        : q->hasFocus() ? QPalette::Active
                                        : QPalette::Inactive;
@@ -186,16 +200,11 @@ void TStringGrid::TPrivado::PintarPadrao(QPainter &p, const QRect &ret, int col,
     p.setPen(paleta.color(grupo, marcada ? QPalette::HighlightedText
                                  : fixa  ? QPalette::ButtonText
                                          : QPalette::Text));
-    static QString texto;
-    q->CellTexto(col, row, texto);
-    EscreverNaCelula(p, ret.adjusted(MargemX, MargemY, -MargemX, -MargemY), texto,
+    EscreverNaCelula(p, ret.adjusted(MargemX, MargemY, -MargemX, -MargemY), q->CellTexto(col, row),
                      Qt::AlignLeft | Qt::AlignVCenter);
     if ((estado & gdFocada) && !q->OnDrawCell) {
-        QStyleOptionFocusRect foco;
-        foco.initFrom(q);
-        foco.rect = ret;
-        foco.state |= QStyle::State_KeyboardFocusChange | QStyle::State_HasFocus;
-        q->style()->drawPrimitive(QStyle::PE_FrameFocusRect, &foco, &p, q);
+        p.setPen(QPen(p.pen().color(), 1, Qt::DotLine));
+        p.drawRect(ret.adjusted(0, 0, -1, -1));
     }
 }
 

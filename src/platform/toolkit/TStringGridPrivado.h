@@ -41,6 +41,7 @@ struct TStringGrid::TPrivado {
     bool CelulaLivre(int col, int row) const;
     TGridCoord Limitar(TGridCoord c) const;
     int ColunaVizinha(int col, int sentido) const;
+    int ColunasAntesDe(int col) const;
     int PrimeiraColuna() const;
     int UltimaColuna() const;
 
