@@ -1,7 +1,6 @@
 #include "records/UCampo.h"
 
 #include "base/UControlBasFr.h"
-#include "platform/support/BancoApoio.h"
 #include "platform/support/Textos.h"
 
 namespace ficha
@@ -19,7 +18,7 @@ TCampo::TCampo()
 
 bool TCampo::ColunaTexto() const
 {
-    return Field && FieldIsString(Field);
+    return Field && Field->DataType() == TFieldType::ftString;
 }
 
 bool TCampo::ColunaNumero() const

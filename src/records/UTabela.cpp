@@ -135,7 +135,7 @@ int TTabela::GenMaiorCod(const QString &tabela) const
 
 int TTabela::GenVal(const QString &tabela) const
 {
-    return ficha::GenVal(NomeDoGerador(tabela));
+    return int(ficha::GenVal(NomeDoGerador(tabela)));
 }
 
 void TTabela::GenSet(const QString &tabela, int valor) const

@@ -1,0 +1,14 @@
+#pragma once
+
+namespace ficha
+{
+class TSQLConnection;
+}
+
+namespace comercial
+{
+
+/** Fills the tables of a new database with invented groups and products, in one transaction. */
+void InserirDadosDeExemplo(ficha::TSQLConnection &conexao);
+
+} // namespace comercial

@@ -1,0 +1,100 @@
+#include "demo/UProdutosF.h"
+
+#include "demo/UGruposF.h"
+#include "platform/toolkit/TActionList.h"
+
+using namespace ficha;
+
+namespace comercial
+{
+
+FICHA_REGISTRAR(TProdutosF)
+
+void TProdutosF::PegarComponentes()
+{
+    TTabLinearBasF::PegarComponentes();
+    Pegar(this, CodFr, "CodFr");
+    Pegar(this, DescrFr, "DescrFr");
+    Pegar(this, GrupoFr, "GrupoFr");
+    Pegar(this, PrecoFr, "PrecoFr");
+    Pegar(this, EstoqueFr, "EstoqueFr");
+    Pegar(this, UnidadeFr, "UnidadeFr");
+    Pegar(this, AtivoFr, "AtivoFr");
+    Pegar(this, ObservacaoFr, "ObservacaoFr");
+}
+
+void TProdutosF::FormCreate(QObject *sender)
+{
+    SQLQuery1->SetSQL(QStringLiteral(
+        "select p.produtos_cod, p.descricao, p.grupos_cod, g.descricao as grupo, p.preco, "
+        "p.estoque, p.unidade, p.ativo, p.observacao from produtos p "
+        "join grupos g on g.grupos_cod = p.grupos_cod order by p.descricao"));
+    TTabLinearBasF::FormCreate(sender);
+    GrupoFr->SetSQLText(
+        QStringLiteral("select grupos_cod, descricao from grupos order by descricao"));
+    auto *abrirGrupos = new TAction(ActionList1);
+    abrirGrupos->OnExecute = [this](QObject *) {
+        TComercialF::Instancia()->AbrirTela<TGruposF>(QStringLiteral("GruposF"));
+    };
+    GrupoFr->SelecionarAction = abrirGrupos;
+    GrupoFr->NomeFormSelecionar = QStringLiteral("GruposF");
+}
+
+void TProdutosF::Rotular()
+{
+    const std::pair<const char *, const char16_t *> rotulos[] = {
+        {"produtos_cod", u"Código"}, {"descricao", u"Descrição"}, {"grupos_cod", u"Grupo"},
+        {"grupo", u"Grupo"},         {"preco", u"Preço"},         {"estoque", u"Estoque"},
+        {"unidade", u"Unidade"},     {"ativo", u"Ativo"},         {"observacao", u"Observação"},
+    };
+    for (const auto &[campo, rotulo] : rotulos)
+        SQLQuery1->FieldByName(campo)->SetDisplayLabel(QString::fromUtf16(rotulo));
+}
+
+void TProdutosF::PrepararTab()
+{
+    Rotular();
+    TSQLQuery *q = SQLQuery1;
+    Tab = Criar<TTabelaLinear>(q, QStringLiteral("produtos"));
+    Tab->PegarCampoChave(q->FieldByName("produtos_cod"), 60, CodFr);
+    Tab->PegarCampo(q->FieldByName("descricao"), 220, DescrFr);
+    TCampo *grupo = Tab->PegarCampoChaveEstrangeira(q->FieldByName("grupos_cod"),
+                                                    q->FieldByName("grupo"), 130, GrupoFr);
+    grupo->OnAsString = [](TCampo *campo, QString &texto) { texto = campo->TextoEstrangeiro; };
+    TCampo *preco = Tab->PegarCampo(q->FieldByName("preco"), 80, PrecoFr);
+    preco->Tipo = 4;
+    preco->FormatoFloat = QStringLiteral("###,###,##0.00");
+    Tab->PegarCampo(q->FieldByName("estoque"), 70, EstoqueFr);
+    TCampo *unidade = Tab->PegarCampo(q->FieldByName("unidade"), 80, UnidadeFr);
+    unidade->Tipo = 5;
+    unidade->ListaChar = std::make_unique<TLinhas>();
+    for (int i = 0; i < UnidadeFr->RadioGroup1->Count(); ++i)
+        unidade->ListaChar->Add(UnidadeFr->RadioGroup1->GetItem(i), i + 33);
+    Tab->PegarCampo(q->FieldByName("ativo"), 45, AtivoFr);
+    Tab->PegarCampo(q->FieldByName("observacao"), 0, ObservacaoFr)->Visivel = false;
+}
+
+void TProdutosF::AntesInserir()
+{
+    SQLInserir = QStringLiteral("insert into produtos (produtos_cod, descricao, grupos_cod, preco, "
+                                "estoque, unidade, ativo, observacao) values (") +
+                 QStringList({StringProxCod(), DescrFr->SQLString(), GrupoFr->SQLString(),
+                              PrecoFr->SQLString(), EstoqueFr->SQLString(), UnidadeFr->SQLString(),
+                              AtivoFr->SQLString(), ObservacaoFr->SQLString()})
+                     .join(QStringLiteral(", ")) +
+                 u')';
+    SQLUltimoInserido =
+        QStringLiteral("select produtos_cod from produtos where descricao=") + DescrFr->SQLString();
+}
+
+void TProdutosF::AntesAlterar()
+{
+    SQLAlterar = QStringLiteral("update produtos set descricao=") + DescrFr->SQLString() +
+                 QStringLiteral(", grupos_cod=") + GrupoFr->SQLString() +
+                 QStringLiteral(", preco=") + PrecoFr->SQLString() + QStringLiteral(", estoque=") +
+                 EstoqueFr->SQLString() + QStringLiteral(", unidade=") + UnidadeFr->SQLString() +
+                 QStringLiteral(", ativo=") + AtivoFr->SQLString() +
+                 QStringLiteral(", observacao=") + ObservacaoFr->SQLString();
+}
+
+} // namespace comercial
