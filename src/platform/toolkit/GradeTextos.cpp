@@ -61,16 +61,18 @@ QAnyStringView TGradeTextos::Texto(int col, int row) const
 
 bool TGradeTextos::Gravar(int col, int row, QStringView texto)
 {
-    const TCelula *atual = Celula(col, row);
-    if (atual ? Texto(*atual) == QAnyStringView(texto) : texto.isEmpty())
+    TCelula *atual = const_cast<TCelula *>(Celula(col, row));
+    if (atual ? IgualA(*atual, texto) : texto.isEmpty())
         return false;
-    TCelula &celula = CelulaParaGravar(col, row);
+    TCelula &celula = atual ? *atual : NovaCelula(col, row);
+    const bool perde = EhLongo(celula.tipo);
     const bool latin1 = CabeEmLatin1(texto);
     if (latin1 && texto.size() <= MaxCurto)
         GravarCurto(celula, texto);
     else
         GravarLongo(celula, texto, latin1);
-    CompactarSeValer();
+    if (perde)
+        CompactarSeValer();
     return true;
 }
 
@@ -96,21 +98,25 @@ const TGradeTextos::TCelula *TGradeTextos::Celula(int col, int row) const
     return j < bloco.size() ? &bloco[j] : nullptr;
 }
 
-TGradeTextos::TCelula &TGradeTextos::CelulaParaGravar(int col, int row)
+/** Makes the memory of a cell that has none yet. */
+TGradeTextos::TCelula &TGradeTextos::NovaCelula(int col, int row)
 {
     const auto i = std::size_t(row) >> BitsDoBloco;
     if (i >= blocos.size())
         blocos.resize(i + 1);
     auto &bloco = blocos[i];
-    const auto j =
-        std::size_t(row & (LinhasPorBloco - 1)) * std::size_t(colunas) + std::size_t(col);
-    if (j >= bloco.size()) {
-        const int noBloco = std::min(LinhasPorBloco, linhas - int(i << BitsDoBloco));
-        celulas -= qint64(bloco.size());
-        bloco.resize(std::size_t(noBloco) * std::size_t(colunas));
-        celulas += qint64(bloco.size());
-    }
-    return bloco[j];
+    const int noBloco = std::min(LinhasPorBloco, linhas - int(i << BitsDoBloco));
+    celulas -= qint64(bloco.size());
+    bloco.resize(std::size_t(noBloco) * std::size_t(colunas));
+    celulas += qint64(bloco.size());
+    return bloco[std::size_t(row & (LinhasPorBloco - 1)) * std::size_t(colunas) + std::size_t(col)];
+}
+
+bool TGradeTextos::IgualA(const TCelula &celula, QStringView texto) const
+{
+    if (!EhLongo(celula.tipo) && celula.tipo != texto.size())
+        return false; // most writes of a fill end here
+    return Texto(celula) == QAnyStringView(texto);
 }
 
 QAnyStringView TGradeTextos::Texto(const TCelula &celula) const

@@ -50,7 +50,8 @@ private:
     };
 
     const TCelula *Celula(int col, int row) const;
-    TCelula &CelulaParaGravar(int col, int row);
+    TCelula &NovaCelula(int col, int row);
+    bool IgualA(const TCelula &celula, QStringView texto) const;
     QAnyStringView Texto(const TCelula &celula) const;
     char *Entrada(const TCelula &celula) const;
     static char *NovaEntrada(TArena &arena, TCelula &celula, std::uint32_t bytes);
