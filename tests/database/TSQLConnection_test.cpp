@@ -431,6 +431,12 @@ TEST_F(TMauComecoTest, NoName)
                    QStringLiteral("Nenhum banco de dados foi indicado."));
 }
 
+TEST_F(TMauComecoTest, ColonInTheFileName)
+{
+    EsperarAoAbrir(pasta.filePath(QStringLiteral("a:b.fdb")), TErroBanco::Outro,
+                   QStringLiteral("O caminho do banco de dados não pode ter dois-pontos: "));
+}
+
 TEST_F(TMauComecoTest, MissingFolder)
 {
     EsperarAoAbrir(pasta.filePath(QStringLiteral("nada/base.fdb")),

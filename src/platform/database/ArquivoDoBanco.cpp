@@ -24,6 +24,11 @@ void VerificarPasta(const QFileInfo &arquivo)
         throw EDatabaseError(TErroBanco::PastaOuArquivoAusente,
                              QStringLiteral("Nenhum banco de dados foi indicado."));
     }
+    // The engine would take what stands before it for a server.
+    if (arquivo.absoluteFilePath().indexOf(u':', 2) >= 0)
+        Recusar(TErroBanco::Outro,
+                QStringLiteral("O caminho do banco de dados não pode ter dois-pontos: %1"),
+                arquivo.absoluteFilePath());
     if (!QFileInfo(arquivo.absolutePath()).isDir()) {
         Recusar(TErroBanco::PastaOuArquivoAusente,
                 QStringLiteral("A pasta do banco de dados não existe: %1"), arquivo.absolutePath());

@@ -141,7 +141,8 @@ constexpr std::array Regras = {
     TRegra{isc_convert_error, TErroBanco::Outro,
            u"O valor \"%1\" não pode ser convertido para o tipo do campo."},
     TRegra{isc_unavailable, TErroBanco::PastaOuArquivoAusente,
-           u"O banco de dados indicado não foi encontrado."},
+           u"O banco de dados não pôde ser aberto: o endereço não existe, ou falta instalar o "
+           u"Firebird."},
 };
 
 QString Preencher(const char16_t *modelo, const TItem *item)

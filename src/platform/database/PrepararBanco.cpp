@@ -50,8 +50,10 @@ void PrepararBanco(TSQLConnection &conexao)
     CriarFuncao(conexao, QStringLiteral("LTRIM"), QStringLiteral("leading"));
     CriarFuncao(conexao, QStringLiteral("RTRIM"), QStringLiteral("trailing"));
     CriarSeFaltar(conexao, QStringLiteral("RDB$RELATIONS where RDB$RELATION_NAME = 'FICHA_TRAVA'"),
-                  QStringLiteral("create table FICHA_TRAVA (TABELA varchar(63) not null, "
-                                 "CHAVE varchar(200) not null, primary key (TABELA, CHAVE))"),
+                  QStringLiteral("create table FICHA_TRAVA ("
+                                 "TABELA varchar(63) character set iso8859_1 not null, "
+                                 "CHAVE varchar(200) character set iso8859_1 not null, "
+                                 "primary key (TABELA, CHAVE))"),
                   QStringLiteral("grant select, insert, delete on FICHA_TRAVA to public"));
 }
 
