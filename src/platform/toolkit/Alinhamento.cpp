@@ -94,7 +94,7 @@ void TAlinhador::Dispor(TAlign lado, QRect &resto)
         else if (lado == alRight)
             r.setLeft(resto.right() - seu.width() + 1);
         controle->setGeometry(r);
-        TAncoras::Aplicar(controle);
+        ArrumarConteiner(controle);
         if (lado == alTop)
             resto.setTop(r.bottom() + 1);
         else if (lado == alBottom)
@@ -198,8 +198,15 @@ void TAncoras::Mover()
                 r.setTop(r.top() + d.height());
         }
         i.controle->setGeometry(r);
-        Aplicar(i.controle);
+        ArrumarConteiner(i.controle);
     }
+}
+
+void ArrumarConteiner(QWidget *conteiner)
+{
+    TAncoras::Aplicar(conteiner);
+    if (auto *alinhador = qobject_cast<TAlinhador *>(conteiner->layout()))
+        alinhador->setGeometry(conteiner->contentsRect());
 }
 
 bool TAncoras::eventFilter(QObject *objeto, QEvent *evento)

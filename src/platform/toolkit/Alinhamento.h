@@ -74,4 +74,8 @@ private:
     std::vector<TItem> itens;
 };
 
+/** Lays out what is aligned and anchored in a container, and in what that holds, at once: hidden
+ * widgets get no resize events before they are shown. */
+void ArrumarConteiner(QWidget *conteiner);
+
 } // namespace ficha

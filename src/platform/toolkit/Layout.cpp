@@ -177,8 +177,9 @@ void TConstrutor::Montar(const TPlanoDeClasse &p)
 
 void TConstrutor::Terminar()
 {
-    for (TAlinhador *a : alinhadores)
-        a->activate();
+    for (const TAlinhador *a : alinhadores)
+        if (a->parentWidget())
+            ArrumarConteiner(a->parentWidget());
 }
 
 void TConstrutor::Preencher(const TPlanoWidget &w, QWidget *alvo)
@@ -270,11 +271,11 @@ void TConstrutor::Escrever(const TAtribuicao &a, QObject *alvo)
     case TEscrita::Propriedade:
         a.propriedade.write(alvo, a.valor);
         if (w && a.nome == "geometry")
-            TAncoras::Aplicar(w);
+            ArrumarConteiner(w);
         break;
     case TEscrita::Geometria:
         w->resize(a.valor.toRect().size());
-        TAncoras::Aplicar(w);
+        ArrumarConteiner(w);
         break;
     case TEscrita::Paleta:
         EscreverPaleta(a.valor.value<QPalette>(), w);

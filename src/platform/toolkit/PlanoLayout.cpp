@@ -250,6 +250,11 @@ void TCompilador::Filho(const TElementoUi &el, TPlanoWidget &w, const TLugar &de
     std::shared_ptr<const TPlanoDeClasse> doQuadro;
     if (Herda(filho.classe, TFrame::staticMetaObject)) {
         doQuadro = PlanoDaClasse(*filho.classe);
+        if (doQuadro->emCurso || Herda(filho.classe, classeRaiz)) {
+            Falha(el.Linha, QStringLiteral("'%1' poria %2 dentro de si mesmo")
+                                .arg(filho.nome, NomeDaClasse(*filho.classe)));
+            return;
+        }
         dele = {QString(), &doQuadro->escopo, filho.classe};
     }
     Conteudo(el, filho, dele, false);

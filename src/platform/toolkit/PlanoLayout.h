@@ -131,6 +131,7 @@ struct TPlanoDeClasse {
     std::unique_ptr<TPlanoArquivo> proprio;
     TEscopoDeLayout escopo;
     QStringList falhas;
+    bool emCurso = false; /**< asked for while it is being made: the class holds itself */
 };
 
 /** The plan of a class, made once per process; its faults are in the plan. */

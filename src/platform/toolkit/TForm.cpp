@@ -11,6 +11,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <QScopeGuard>
 
 namespace ficha
 {
@@ -173,12 +174,18 @@ int TForm::ShowModal()
         hide();
         laco = &espera;
     }
+    const QPointer<QWidget> antes = QApplication::activeWindow();
     setWindowModality(Qt::ApplicationModal);
     show();
     raise();
     activateWindow();
     if (vivo && laco)
         espera.exec(QEventLoop::DialogExec);
+    // Where no window manager does it, the window below becomes active again by this.
+    const auto devolver = qScopeGuard([&] {
+        if (antes && antes->isVisible() && !QApplication::activeWindow())
+            antes->activateWindow();
+    });
     if (!vivo)
         return mrCancel;
     laco = nullptr;
@@ -447,11 +454,13 @@ void TForm::keyPressEvent(QKeyEvent *evento)
 void TForm::LigarSubJanela()
 {
     QMdiSubWindow *sub = SubJanela();
-    if (!sub || sub == ligada || !sub->mdiArea())
+    if (!sub || !sub->mdiArea())
         return;
-    ligada = sub;
     // FormClose decides what becomes of the form, and of its sub window with it.
     sub->setAttribute(Qt::WA_DeleteOnClose, false);
+    if (sub == ligada)
+        return;
+    ligada = sub;
     connect(sub->mdiArea(), &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow *ativa) {
         if (ativa && ativa == SubJanela())
             TornarAtivo();
