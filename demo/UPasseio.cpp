@@ -1,7 +1,11 @@
 #include "demo/UPasseio.h"
 
+#include "input/UComboBoxCodBasFr.h"
 #include "platform/core/Erros.h"
 #include "platform/database/ConexD.h"
+#include "platform/toolkit/Ocioso.h"
+#include "platform/toolkit/TBitBtn.h"
+#include "platform/toolkit/TComboBox.h"
 #include "platform/toolkit/TForm.h"
 
 #include <QApplication>
@@ -18,19 +22,41 @@ namespace comercial
 
 namespace
 {
+
+constexpr int EsperaPelaCaixa = 5000;
+
 void Dizer(const QString &texto)
 {
     std::fputs((texto + u'\n').toUtf8().constData(), stdout);
     std::fflush(stdout);
 }
 
+/** Where a person's keys would go. */
 QWidget *Alvo()
 {
-    if (QWidget *modal = QApplication::activeModalWidget())
-        return modal->focusWidget() ? modal->focusWidget() : modal;
-    QWidget *foco = QApplication::focusWidget();
-    return foco ? foco : QApplication::activeWindow();
+    QWidget *janela = QApplication::activeModalWidget();
+    if (!janela)
+        janela = QApplication::activeWindow();
+    if (!janela)
+        throw EErro(QStringLiteral("nenhuma janela está ativa"));
+    return janela->focusWidget() ? janela->focusWidget() : janela;
 }
+
+/** Runs f once a modal box is there; the box's own event loop calls it. */
+void QuandoHouverCaixa(std::function<void(QWidget *)> f, int faltam = EsperaPelaCaixa)
+{
+    constexpr int Passo = 20;
+    if (faltam <= 0)
+        return;
+    QTimer::singleShot(Passo, qApp, [f = std::move(f), faltam]() mutable {
+        QWidget *caixa = QApplication::activeModalWidget();
+        if (caixa && caixa->isVisible())
+            f(caixa);
+        else
+            QuandoHouverCaixa(std::move(f), faltam - Passo);
+    });
+}
+
 } // namespace
 
 TPasseio::TPasseio(TComercialF &principal, TSQLConnection &banco, const QDir &destino)
@@ -43,7 +69,7 @@ TPasseio::TPasseio(TComercialF &principal, TSQLConnection &banco, const QDir &de
 void TPasseio::Executar()
 {
     janela.resize(900, 640);
-    janela.show();
+    janela.Show();
     Assentar();
     MostrarBanco("Antes");
     Grupos();
@@ -51,11 +77,20 @@ void TPasseio::Executar()
     Alteracao();
     Busca();
     Exclusao();
-    Produtos();
+    Produto();
+    GrupoPeloCombo();
     PerguntaAoFechar();
     SegundoPrograma();
     MostrarBanco("Depois");
-    Dizer(QStringLiteral("%1 telas fotografadas").arg(fotos));
+    Dizer(QStringLiteral("%1 fotografias em %2").arg(fotos).arg(pasta.path()));
+}
+
+void TPasseio::FotografarCaixa(const QString &arquivo)
+{
+    QuandoHouverCaixa([arquivo](QWidget *caixa) {
+        caixa->grab().save(arquivo);
+        QTest::keyClick(caixa, Qt::Key_Escape);
+    });
 }
 
 void TPasseio::MostrarBanco(const char *titulo)
@@ -66,21 +101,22 @@ void TPasseio::MostrarBanco(const char *titulo)
                    DoBanco(QStringLiteral("select count(*) from produtos"))));
     TCustomBRSQL grupos(
         QStringLiteral("select grupos_cod, descricao from grupos order by grupos_cod"));
-    for (; !grupos.Eof(); grupos.Next())
+    for (; !grupos.Eof(); grupos.Next()) {
         Dizer(QStringLiteral("   %1  %2")
                   .arg(grupos.Fields(0)->AsString(), 3)
                   .arg(grupos.Fields(1)->AsString()));
+    }
     const TCustomBRSQL ultimo(QStringLiteral(
         "select first 1 p.produtos_cod, p.descricao, g.descricao, p.preco from produtos p "
         "join grupos g on g.grupos_cod = p.grupos_cod order by p.produtos_cod desc"));
-    Dizer(QStringLiteral("   último produto: %1 %2 (%3) R$ %4")
+    Dizer(QStringLiteral("   último produto: %1 %2 (%3), R$ %4")
               .arg(ultimo.Fields(0)->AsString(), ultimo.Fields(1)->AsString(),
                    ultimo.Fields(2)->AsString(), ultimo.Fields(3)->AsString()));
 }
 
 void TPasseio::Grupos()
 {
-    AbrirTela(Qt::Key_G);
+    Tecla(Qt::Key_F2);
     Foto(QStringLiteral("grupos-lista"));
     Tecla(Qt::Key_Tab, Qt::ControlModifier);
     Foto(QStringLiteral("grupos-campos"));
@@ -88,9 +124,9 @@ void TPasseio::Grupos()
     Digitar(QStringLiteral("Brinquedos"));
     Foto(QStringLiteral("grupos-inserindo"));
     Tecla(Qt::Key_Return, Qt::ControlModifier);
-    Exigir(DoBanco(QStringLiteral("select count(*) from grupos where descricao='Brinquedos'")) ==
-               QStringLiteral("1"),
-           "o grupo inserido");
+    Exigir(DoBanco(QStringLiteral("select grupos_cod from grupos where descricao='Brinquedos'")) ==
+               QStringLiteral("9"),
+           "inserir um grupo");
     Foto(QStringLiteral("grupos-inserido"));
 }
 
@@ -103,7 +139,7 @@ void TPasseio::InsercaoRecusada()
     Exigir(
         DoBanco(QStringLiteral("select count(*) from grupos where upper(descricao)='BEBIDAS'")) ==
             QStringLiteral("1"),
-        "a repetição recusada");
+        "recusar um grupo repetido");
     Foto(QStringLiteral("grupos-continua-inserindo"));
     Tecla(Qt::Key_Escape);
 }
@@ -116,29 +152,154 @@ void TPasseio::Alteracao()
     Digitar(QStringLiteral(" e grãos"));
     Foto(QStringLiteral("grupos-alterando"));
     Tecla(Qt::Key_Return, Qt::ControlModifier);
-    Exigir(DoBanco(QStringLiteral(
-               "select count(*) from grupos where descricao='Alimentos básicos e grãos'")) ==
-               QStringLiteral("1"),
-           "o grupo alterado");
+    Exigir(DoBanco(QStringLiteral("select descricao from grupos where grupos_cod=1")) ==
+               QStringLiteral("Alimentos básicos e grãos"),
+           "alterar um grupo");
     Foto(QStringLiteral("grupos-alterado"));
 }
 
 void TPasseio::Busca()
 {
-    janela.TelaAtiva()->findChild<TPageControl *>()->SetActivePageIndex(0);
-    Assentar();
+    Tecla(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+    Tecla(Qt::Key_Right);
+    Tecla(Qt::Key_End, Qt::ControlModifier);
     Tecla(Qt::Key_L, Qt::ControlModifier);
-    Assentar();
+    Digitar(QStringLiteral("Brinquedos"));
     Foto(QStringLiteral("busca"), QApplication::activeWindow());
+    ResponderCaixa(QStringLiteral("busca-pergunta-a-direcao"), Qt::Key_S);
+    Tecla(Qt::Key_Return);
     Tecla(Qt::Key_Escape);
+    Foto(QStringLiteral("busca-achou"));
 }
 
-void TPasseio::Exclusao() {}
+void TPasseio::Exclusao()
+{
+    ResponderCaixa(QStringLiteral("grupos-pergunta-ao-excluir"), Qt::Key_S);
+    Tecla(Qt::Key_Delete, Qt::ControlModifier);
+    Exigir(DoBanco(QStringLiteral("select count(*) from grupos where descricao='Brinquedos'")) ==
+               QStringLiteral("0"),
+           "excluir o grupo que a busca achou");
+    Foto(QStringLiteral("grupos-excluido"));
+    Tecla(Qt::Key_F4, Qt::ControlModifier);
+}
 
-void TPasseio::Produtos() {}
+void TPasseio::Produto()
+{
+    Tecla(Qt::Key_F3);
+    Foto(QStringLiteral("produtos-lista"));
+    Tecla(Qt::Key_I, Qt::ControlModifier | Qt::AltModifier);
+    Digitar(QStringLiteral("Vaso de cerâmica com prato, trinta litros"));
+    Foto(QStringLiteral("produtos-descricao-longa"));
+}
 
-void TPasseio::PerguntaAoFechar() {}
+/** The button beside the group opens the groups' screen, which closes with the new code. */
+void TPasseio::GrupoPeloCombo()
+{
+    auto *combo = janela.FilhoAtivo()->findChild<TComboBoxCodBasFr *>(QStringLiteral("GrupoFr"));
+    Tecla(Qt::Key_Tab);
+    QTest::mouseClick(combo->EditBitBtn, Qt::LeftButton);
+    Assentar();
+    Tecla(Qt::Key_I, Qt::ControlModifier | Qt::AltModifier);
+    Digitar(QStringLiteral("Jardim"));
+    Foto(QStringLiteral("combo-abre-grupos"));
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    Exigir(combo->ComboBox1->GetText() == QStringLiteral("Jardim"),
+           "trazer do cadastro de grupos o grupo novo");
+    Foto(QStringLiteral("combo-volta-com-o-grupo"));
+    Digitar(QStringLiteral("1234,5"));
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    Exigir(
+        DoBanco(QStringLiteral("select g.descricao || ' ' || p.preco from produtos p join grupos "
+                               "g on g.grupos_cod = p.grupos_cod where p.descricao starting "
+                               "'Vaso'")) == QStringLiteral("Jardim 1234.50"),
+        "inserir um produto no grupo novo");
+    Foto(QStringLiteral("produtos-inserido"));
+}
 
-void TPasseio::SegundoPrograma() {}
+void TPasseio::PerguntaAoFechar()
+{
+    Tecla(Qt::Key_A, Qt::ControlModifier);
+    ResponderCaixa(QStringLiteral("pergunta-ao-fechar"), Qt::Key_N);
+    Tecla(Qt::Key_F4, Qt::ControlModifier);
+    Exigir(janela.Filhos().size() == 1, "continuar na janela que não se quis fechar");
+    Tecla(Qt::Key_Escape);
+    Tecla(Qt::Key_F4, Qt::ControlModifier);
+    Exigir(janela.Filhos().isEmpty(), "fechar a janela de produtos");
+}
+
+void TPasseio::SegundoPrograma()
+{
+    const QString foto = Caminho(QStringLiteral("segundo-programa-recusado"));
+    QProcess segundo;
+    segundo.start(QCoreApplication::applicationFilePath(),
+                  {QStringLiteral("--banco"), conexao.DatabaseName,
+                   QStringLiteral("--foto-da-recusa"), foto});
+    Exigir(segundo.waitForFinished(30000) && segundo.exitCode() == 1 && QFile::exists(foto),
+           "recusar um segundo programa no mesmo banco");
+    Dizer(QStringLiteral("   segundo programa: ") +
+          QString::fromUtf8(segundo.readAllStandardError()).trimmed());
+}
+
+QString TPasseio::Caminho(const QString &nome)
+{
+    return pasta.absoluteFilePath(
+        QStringLiteral("%1-%2.png").arg(++fotos, 2, 10, QChar(u'0')).arg(nome));
+}
+
+void TPasseio::Foto(const QString &nome, QWidget *oQue)
+{
+    Assentar();
+    const QString arquivo = Caminho(nome);
+    if (!(oQue ? oQue : &janela)->grab().save(arquivo))
+        throw EErro(QStringLiteral("a fotografia %1 não pôde ser gravada").arg(arquivo));
+    Dizer(QStringLiteral("   ") + QFileInfo(arquivo).fileName());
+}
+
+void TPasseio::Tecla(Qt::Key tecla, Qt::KeyboardModifiers estado)
+{
+    Assentar();
+    QTest::keyClick(Alvo(), tecla, estado);
+    Assentar();
+}
+
+void TPasseio::Digitar(const QString &texto)
+{
+    Assentar();
+    for (const QChar letra : texto)
+        QTest::sendKeyEvent(QTest::Click, Alvo(), Qt::Key(letra.toUpper().unicode()), letra,
+                            Qt::NoModifier);
+    Assentar();
+}
+
+void TPasseio::ResponderCaixa(const QString &foto, Qt::Key tecla)
+{
+    ++caixasPendentes;
+    QuandoHouverCaixa([this, foto, tecla](QWidget *caixa) {
+        --caixasPendentes;
+        Foto(foto, caixa);
+        QTest::keyClick(caixa->focusWidget() ? caixa->focusWidget() : caixa, tecla);
+    });
+}
+
+void TPasseio::Assentar()
+{
+    QTest::qWait(1);
+    ExecutarOcioso();
+}
+
+void TPasseio::Exigir(bool feito, const char *passo)
+{
+    Assentar();
+    if (caixasPendentes != 0)
+        throw EErro(QStringLiteral("Passeio: faltou uma mensagem em: ") + QString::fromUtf8(passo));
+    if (!feito)
+        throw EErro(QStringLiteral("Passeio: não deu certo: ") + QString::fromUtf8(passo));
+}
+
+QString TPasseio::DoBanco(const QString &sql)
+{
+    const TCustomBRSQL consulta(sql);
+    return consulta.IsEmpty() ? QString() : consulta.Fields(0)->AsString();
+}
 
 } // namespace comercial

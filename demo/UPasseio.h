@@ -1,6 +1,7 @@
 #pragma once
 
 #include "demo/UComercialF.h"
+#include "platform/database/TSQLConnection.h"
 
 #include <QDir>
 
@@ -11,17 +12,19 @@ namespace comercial
  * The written tour: drives the program with real key presses as a person would, checks after each
  * step that the database holds what it should, and leaves numbered screenshots.
  *
- * Steps that need a message box answered press its keys through a timer. Raises EErro naming the
- * step whose outcome is not the expected one.
+ * Raises EErro naming the step whose outcome is not the expected one.
  */
 class TPasseio
 {
 public:
-    /** Neither is owned. The folder is emptied of earlier screenshots. */
+    /** Neither is owned. Earlier screenshots in the folder are removed. */
     TPasseio(TComercialF &janela, ficha::TSQLConnection &conexao, const QDir &pasta);
 
     /** Prints what it does and what the database holds before and after. */
     void Executar();
+
+    /** Photographs the next modal box into a file and closes it with Esc. */
+    static void FotografarCaixa(const QString &arquivo);
 
 private:
     void MostrarBanco(const char *titulo);
@@ -30,26 +33,29 @@ private:
     void Alteracao();
     void Busca();
     void Exclusao();
-    void Produtos();
+    void Produto();
+    void GrupoPeloCombo();
     void PerguntaAoFechar();
     void SegundoPrograma();
 
-    void AbrirTela(Qt::Key letra);
+    QString Caminho(const QString &nome);
+    /** Photographs the main window, or another one. */
     void Foto(const QString &nome, QWidget *oQue = nullptr);
     void Tecla(Qt::Key tecla, Qt::KeyboardModifiers estado = Qt::NoModifier);
     void Digitar(const QString &texto);
-    /** Presses a key in the next modal box, once it is there and photographed. */
+    /** Photographs the modal box that the next key opens and presses a key in it. */
     void ResponderCaixa(const QString &foto, Qt::Key tecla);
+    /** Lets events and the idle-time updates run. */
     void Assentar();
-    void Exigir(bool feito, const char *oQue);
+    /** Raises when the step did not come to this, or a box that was to come did not. */
+    void Exigir(bool feito, const char *passo);
     QString DoBanco(const QString &sql);
 
     TComercialF &janela;
     ficha::TSQLConnection &conexao;
     QDir pasta;
     int fotos = 0;
-    int caixasRespondidas = 0;
-    int caixasEsperadas = 0;
+    int caixasPendentes = 0;
 };
 
 } // namespace comercial

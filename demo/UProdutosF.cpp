@@ -1,7 +1,10 @@
 #include "demo/UProdutosF.h"
 
 #include "demo/UGruposF.h"
+#include "platform/hostforms/TPrincipalMDIF.h"
+#include "platform/toolkit/TAction.h"
 #include "platform/toolkit/TActionList.h"
+#include "platform/toolkit/TRadioGroup.h"
 
 using namespace ficha;
 
@@ -33,9 +36,7 @@ void TProdutosF::FormCreate(QObject *sender)
     GrupoFr->SetSQLText(
         QStringLiteral("select grupos_cod, descricao from grupos order by descricao"));
     auto *abrirGrupos = new TAction(ActionList1);
-    abrirGrupos->OnExecute = [this](QObject *) {
-        TComercialF::Instancia()->AbrirTela<TGruposF>(QStringLiteral("GruposF"));
-    };
+    abrirGrupos->OnExecute = [](QObject *) { TPrincipalMDIF::Atual()->Abrir<TGruposF>(); };
     GrupoFr->SelecionarAction = abrirGrupos;
     GrupoFr->NomeFormSelecionar = QStringLiteral("GruposF");
 }

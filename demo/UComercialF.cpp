@@ -1,0 +1,43 @@
+#include "demo/UComercialF.h"
+
+#include "demo/UGruposF.h"
+#include "demo/UProdutosF.h"
+#include "platform/database/ConexD.h"
+#include "platform/support/Mensagens.h"
+#include "platform/toolkit/TAction.h"
+#include "platform/toolkit/TActionList.h"
+
+#include <QMenu>
+
+using namespace ficha;
+
+namespace comercial
+{
+
+void TComercialF::FormCreate(QObject *sender)
+{
+    TPrincipalMDIF::FormCreate(sender);
+    SetCaption(QStringLiteral("Comercial"));
+    MontarMenus();
+    if (const TSQLConnection *conexao = ConexD().SQLConnection)
+        SetStatus(QStringLiteral("Banco de dados: ") + conexao->DatabaseName);
+}
+
+void TComercialF::MontarMenus()
+{
+    const auto acao = [this](QMenu *menu, const QString &caption, const QKeySequence &tecla,
+                             std::function<void()> executar) {
+        auto *nova = new TAction(ActionList1);
+        nova->SetCaption(caption);
+        nova->SetShortCut(tecla);
+        nova->OnExecute = [executar = std::move(executar)](QObject *) { executar(); };
+        menu->addAction(nova);
+    };
+    QMenu *cadastros = AcrescentarMenu(QStringLiteral("&Cadastros"));
+    acao(cadastros, QStringLiteral("&Grupos"), Qt::Key_F2, [this] { Abrir<TGruposF>(); });
+    acao(cadastros, QStringLiteral("&Produtos"), Qt::Key_F3, [this] { Abrir<TProdutosF>(); });
+    cadastros->addSeparator();
+    acao(cadastros, QStringLiteral("&Sair"), Qt::ALT | Qt::Key_F4, [this] { Close(); });
+}
+
+} // namespace comercial
