@@ -1,5 +1,7 @@
 #include "platform/core/Latin1.h"
 
+#include <QList>
+
 #include <algorithm>
 
 namespace ficha

@@ -39,6 +39,12 @@ struct TVetor {
     }
 };
 
+/** A status vector carries its texts as addresses among numbers. */
+const char *Texto(intptr_t endereco)
+{
+    return reinterpret_cast<const char *>(endereco); // NOLINT(performance-no-int-to-ptr)
+}
+
 TVetor Desmontar(const intptr_t *v)
 {
     TVetor vetor;
@@ -54,11 +60,10 @@ TVetor Desmontar(const intptr_t *v)
             break;
         case isc_arg_string:
         case isc_arg_interpreted:
-            guardarTexto(reinterpret_cast<const char *>(v[1]),
-                         qstrlen(reinterpret_cast<const char *>(v[1])));
+            guardarTexto(Texto(v[1]), qstrlen(Texto(v[1])));
             break;
         case isc_arg_cstring:
-            guardarTexto(reinterpret_cast<const char *>(v[2]), size_t(v[1]));
+            guardarTexto(Texto(v[2]), size_t(v[1]));
             break;
         case isc_arg_unix:
             vetor.erroDoSistema = int(v[1]);

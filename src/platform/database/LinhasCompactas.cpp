@@ -11,7 +11,7 @@ namespace
 {
 
 constexpr size_t PrimeiraArena = 4096;
-constexpr size_t MaiorArena = 256 * 1024;
+constexpr size_t MaiorArena = size_t(256) * 1024;
 /** The engine counts days from 17/11/1858, TDateTime from 30/12/1899. */
 constexpr int DiaZeroDoMotor = 15018;
 constexpr double TiquesPorDia = 864000000.0;

@@ -314,7 +314,7 @@ void TSQLConnection::TPrivado::Confirmar(motor::TRef<Firebird::ITransaction> &tr
     const EDatabaseError erro = estado.Erro();
     Desfazer(transacao);
     if (erro.Tipo != TErroBanco::ConexaoPerdida)
-        throw erro;
+        throw EDatabaseError(erro);
     situacao = TSituacao::Perdida;
     throw EDatabaseError(
         erro.Tipo,
@@ -336,7 +336,7 @@ void TSQLConnection::TPrivado::Verificar()
     const EDatabaseError erro = estado.Erro();
     if (erro.Tipo == TErroBanco::ConexaoPerdida && situacao == TSituacao::Aberta)
         situacao = TSituacao::Perdida;
-    throw erro;
+    throw EDatabaseError(erro);
 }
 
 void TSQLConnection::TPrivado::Soltar() noexcept
@@ -372,7 +372,7 @@ void TSQLConnection::TPrivado::CondenarGrupo(const EDatabaseError &erro) noexcep
 void TSQLConnection::TPrivado::VerificarGrupo() const
 {
     if (falhaDoGrupo)
-        throw *falhaDoGrupo;
+        throw EDatabaseError(*falhaDoGrupo);
 }
 
 motor::TRef<Firebird::IAttachment> TSQLConnection::TPrivado::Anexar(const QString &arquivo,
