@@ -973,6 +973,37 @@ TEST_F(StringGridTest, ScrollingPaintsOnlyTheRowsThatComeIntoView)
     EXPECT_FALSE(LinhasPintadas().isEmpty());
 }
 
+TEST_F(StringGridTest, ASearchThroughAHundredThousandRowsIsQuickAndPaintedOnce)
+{
+    Mostrar();
+    ContarPintura();
+    grid->SetRowCount(100'001);
+    QCoreApplication::processEvents();
+    pintadas.clear();
+    QElapsedTimer t;
+    t.start();
+    for (int r = 1; r <= 100'000; ++r)
+        grid->SetRow(r);
+    const double ms = double(t.nsecsElapsed()) / 1e6;
+    std::printf("[ FIGURES  ] 100,000 moves of the current row, scrolling: %.1f ms\n", ms);
+    EXPECT_LT(ms, 3000);
+    QCoreApplication::processEvents();
+    EXPECT_EQ((pintadas[{0, 100'000}]), 1);
+    EXPECT_LE(pintadas.size(), 6u * 12u);
+}
+
+TEST_F(StringGridTest, AClickTakesTheFocus)
+{
+    QWidget outro(&janela);
+    outro.setFocusPolicy(Qt::StrongFocus);
+    outro.setGeometry(0, 350, 20, 20);
+    Mostrar();
+    outro.setFocus();
+    ASSERT_FALSE(grid->hasFocus());
+    Clicar(1, 2);
+    EXPECT_TRUE(grid->hasFocus());
+}
+
 TEST_F(StringGridTest, WhatIsMovedByScrollingLooksLikeWhatIsPaintedAfresh)
 {
     Mostrar();
@@ -1310,7 +1341,11 @@ TEST(TStringGrid, FillsFasterAndSmallerThanAWidgetPerCell)
                 double(bytesTabela) / 1e6);
     if (ComSanitizer())
         GTEST_SKIP() << "no meaningful figures under a sanitizer";
-    EXPECT_LT(msGrid, msTabela);
+#ifdef __OPTIMIZE__
+    EXPECT_LT(msGrid * 2, msTabela);
+#else
+    EXPECT_LT(msGrid, msTabela * 3);
+#endif
     // Qt's strings are shared here, as nowhere in practice: the ratio is against the items alone.
     EXPECT_LT(bytesGrid * 4, bytesTabela);
     EXPECT_LE(grid.BytesDosTextos(), bytesGrid + 100'000);

@@ -378,7 +378,7 @@ void TStringGrid::InvalidarLinha(int row)
 void TStringGrid::paintEvent(QPaintEvent *e)
 {
     QPainter p(viewport());
-    d->tudoSujo = false;
+    d->tudoSujo = d->rolado = false;
     d->sujas = 0;
     d->ultimaSuja = -1;
     d->Pintar(p, e->region());
@@ -866,11 +866,14 @@ bool TStringGrid::TPrivado::MudarTopo(int novoTopo, int novaEsquerda)
     return Avisar(q->OnTopLeftChanged);
 }
 
-/** Moves the painted rows, so that only those that come into view are painted. */
+/**
+ * Moves the painted rows, so that only those that come into view are painted. Only once between two
+ * paintings: a search that runs through the rows scrolls thousands of times.
+ */
 void TStringGrid::TPrivado::RolarImagem(int deLinhas)
 {
     const QRect area = q->viewport()->rect().adjusted(0, AlturaFixa(), 0, 0);
-    if (tudoSujo || std::abs(deLinhas) >= area.height() / Passo())
+    if (std::exchange(rolado, true) || tudoSujo || std::abs(deLinhas) >= area.height() / Passo())
         SujarTudo();
     else
         q->viewport()->scroll(0, -deLinhas * Passo(), area);

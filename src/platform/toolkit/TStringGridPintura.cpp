@@ -13,6 +13,7 @@ namespace ficha
 namespace
 {
 constexpr int MargemX = 2, MargemY = 1;
+constexpr int MaiorGanho = 4; // pixels by which pairs that stand closer may narrow a text
 const QColor CorDasLinhas(192, 192, 192);
 
 /** Advances of the Latin-1 characters in one font, measured when first met. */
@@ -95,6 +96,9 @@ void Encurtar(const QPainter &p, QAnyStringView texto, int largura, QString &sai
     }
     TAvancos &avancos = AvancosDe(p.font());
     if (QuantosCabem(medida, avancos, saida, largura) == texto.size())
+        return;
+    if (QuantosCabem(medida, avancos, saida, largura + MaiorGanho) == texto.size() &&
+        medida.horizontalAdvance(saida) <= largura)
         return;
     const QChar reticencias(0x2026);
     saida.resize(

@@ -128,7 +128,7 @@ struct TStringGrid::TPrivado {
 
     bool barrasAgendadas = false, sincronizando = false;
     bool mostrado = false, mostrarAtual = false;
-    bool tudoSujo = false;
+    bool tudoSujo = false, rolado = false; /**< since the last painting */
     int sujas = 0, ultimaSuja = -1;
     bool desenhoFalhou = false;
 };
