@@ -36,7 +36,9 @@ QString SQLDoCaractere(int n)
 
 QString TextoForaDosLimites(const QString &rotulo, int minimo, int maximo)
 {
-    return rotulo + QStringLiteral(" deve estar entre ") + QString::number(minimo) +
+    const QString inicio =
+        rotulo.isEmpty() ? QStringLiteral("Deve") : rotulo + QStringLiteral(" deve");
+    return inicio + QStringLiteral(" estar entre ") + QString::number(minimo) +
            QStringLiteral(" e ") + QString::number(maximo) +
            QStringLiteral(". Ajuste o seu valor ou clique em Cancelar.");
 }

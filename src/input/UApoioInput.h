@@ -28,7 +28,8 @@ bool IniciaEdicao(QChar caractere);
  * ISO8859_1, quoted. Codes above 255 are the caller's concern. */
 QString SQLDoCaractere(int n);
 
-/** The refusal of a number outside its bounds; both are named, enforced or not. */
+/** The refusal of a number outside its bounds; both are named, enforced or not. Without a label it
+ * begins with "Deve". */
 QString TextoForaDosLimites(const QString &rotulo, int minimo, int maximo);
 
 } // namespace ficha
