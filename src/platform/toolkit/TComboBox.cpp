@@ -250,9 +250,16 @@ void TComboBox::showPopup()
     }
     if (escopos == 0)
         anunciado = Estado();
+    // The list takes the keyboard, and the edit forgets its selection; the completion is one.
+    const QLineEdit *edit = lineEdit();
+    const int inicio = edit ? edit->selectionStart() : -1;
+    const int tamanho = edit ? edit->selectionLength() : 0;
     QComboBox::showPopup();
-    if (vivo)
-        AcompanharLista();
+    if (!vivo)
+        return;
+    if (lineEdit() && inicio >= 0)
+        lineEdit()->setSelection(inicio + tamanho, -tamanho);
+    AcompanharLista();
 }
 
 void TComboBox::hidePopup()

@@ -1,13 +1,29 @@
 #include "platform/toolkit/TCustomMaskEdit.h"
 
 #include <QFocusEvent>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMouseEvent>
+
+#include <algorithm>
 
 namespace ficha
 {
 
-TCustomMaskEdit::TCustomMaskEdit(QWidget *owner) : TCustomEdit(owner) {}
+namespace
+{
+
+/** QLineEdit's own margin, left and right, which a tight text may use. */
+constexpr int Margem = 2;
+/** Closer than this the digits would touch. */
+constexpr double MaiorAperto = -0.6;
+
+} // namespace
+
+TCustomMaskEdit::TCustomMaskEdit(QWidget *owner) : TCustomEdit(owner)
+{
+    connect(this, &QLineEdit::textChanged, this, &TCustomMaskEdit::Apertar);
+}
 
 QString TCustomMaskEdit::GetText() const
 {
@@ -124,6 +140,35 @@ void TCustomMaskEdit::mouseReleaseEvent(QMouseEvent *evento)
     // Where nothing is filled in yet, a click anywhere means the beginning.
     if (IsMasked() && !hasSelectedText() && mascara.TudoVazio(TextoExibido()))
         setCursorPosition(mascara.Proximo(0));
+}
+
+void TCustomMaskEdit::resizeEvent(QResizeEvent *evento)
+{
+    TCustomEdit::resizeEvent(evento);
+    Apertar();
+}
+
+/** Makes a text with more characters than the mask fit an edit that was made for the mask. */
+void TCustomMaskEdit::Apertar()
+{
+    const QString exibido = TextoExibido();
+    double aperto = 0;
+    if (IsMasked() && exibido.size() > mascara.Tamanho()) {
+        QFont folgada = font();
+        folgada.setLetterSpacing(QFont::AbsoluteSpacing, 0);
+        const int moldura = 2 * (hasFrame() ? 1 : 0);
+        const int falta =
+            QFontMetrics(folgada).horizontalAdvance(exibido) + 1 - (width() - moldura);
+        aperto = std::max(MaiorAperto, std::min(0.0, -double(falta) / double(exibido.size())));
+        setTextMargins(falta > -2 * Margem ? QMargins(-Margem, 0, -Margem, 0) : QMargins());
+    } else if (!textMargins().isNull()) {
+        setTextMargins(QMargins());
+    }
+    if (font().letterSpacing() != aperto) {
+        QFont justa = font();
+        justa.setLetterSpacing(QFont::AbsoluteSpacing, aperto);
+        setFont(justa);
+    }
 }
 
 /** Empties the places of a range and takes out what stands behind the pattern; the caret goes to

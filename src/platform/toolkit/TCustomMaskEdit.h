@@ -11,7 +11,8 @@ namespace ficha
  *
  * The text (GetText) follows the mask's literal rule, the shown text (GetEditText) has literals and
  * blanks. Text set by the program is kept whole: what is longer than the mask is shown behind it
- * ("01/02/2003" in "99/99/99"), what does not fit its places at all is shown as it is, and the user
+ * ("01/02/2003" in "99/99/99"), its letters a little closer where the edit is too narrow for them;
+ * what does not fit its places at all is shown as it is, and the user
  * can only delete from it or type over the whole of it.
  *
  * Typing fills the place at the caret, whatever it holds, and passes over literals; a literal typed
@@ -50,8 +51,10 @@ protected:
     void keyPressEvent(QKeyEvent *evento) override;
     void focusInEvent(QFocusEvent *evento) override;
     void mouseReleaseEvent(QMouseEvent *evento) override;
+    void resizeEvent(QResizeEvent *evento) override;
 
 private:
+    void Apertar();
     void Esvaziar(TEdicao &edicao, int inicio, int fim) const;
     bool DigitarUm(TEdicao &edicao, QChar c) const;
     bool ColarEm(TEdicao &edicao, const QString &texto) const;

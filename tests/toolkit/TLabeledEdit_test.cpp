@@ -1,0 +1,151 @@
+#include "platform/toolkit/TLabeledEdit.h"
+
+#include "platform/toolkit/Layout.h"
+#include "support/Widgets.h"
+
+#include <QAccessible>
+#include <QFontMetrics>
+#include <QImage>
+
+using namespace ficha;
+using namespace ficha::testes;
+
+namespace
+{
+
+struct Rotulado : testing::Test {
+    Rotulado()
+    {
+        edit = new TLabeledEdit(&janela);
+        edit->setGeometry(10, 30, 120, 21);
+        edit->SetCaption(QStringLiteral("Descrição"));
+    }
+
+    TJanela janela;
+    TLabeledEdit *edit;
+};
+
+} // namespace
+
+TEST_F(Rotulado, LabelStandsAboveTheEditAtItsDistance)
+{
+    janela.Abrir();
+    const QRect rotulo = edit->EditLabel->geometry();
+    EXPECT_EQ(rotulo.left(), 10);
+    EXPECT_EQ(rotulo.bottom() + 1, 30 - 1);
+    EXPECT_EQ(edit->EditLabel->parentWidget(), &janela);
+    edit->SetLabelSpacing(4);
+    EXPECT_EQ(edit->EditLabel->geometry().bottom() + 1, 26);
+    EXPECT_TRUE(edit->EditLabel->isVisible());
+}
+
+TEST_F(Rotulado, LabelIsAsWideAsItsTextAtOnce)
+{
+    const int antes = edit->EditLabel->width();
+    edit->SetCaption(QStringLiteral("Descrição   Máx:30 letras   Atual:"));
+    EXPECT_GT(edit->EditLabel->width(), antes);
+    EXPECT_GE(edit->EditLabel->width(),
+              edit->EditLabel->fontMetrics().horizontalAdvance(edit->GetCaption()));
+}
+
+TEST_F(Rotulado, LabelFollowsMovesVisibilityEnabledStateAndParent)
+{
+    janela.Abrir();
+    edit->move(50, 100);
+    EXPECT_EQ(edit->EditLabel->x(), 50);
+    EXPECT_EQ(edit->EditLabel->geometry().bottom() + 1, 99);
+    edit->hide();
+    EXPECT_FALSE(edit->EditLabel->isVisible());
+    edit->show();
+    EXPECT_TRUE(edit->EditLabel->isVisible());
+    edit->setEnabled(false);
+    EXPECT_FALSE(edit->EditLabel->isEnabled());
+    edit->setEnabled(true);
+    EXPECT_TRUE(edit->EditLabel->isEnabled());
+    QWidget outro(&janela);
+    outro.resize(300, 200);
+    outro.show();
+    edit->setParent(&outro);
+    edit->show();
+    EXPECT_EQ(edit->EditLabel->parentWidget(), &outro);
+    EXPECT_TRUE(edit->EditLabel->isVisible());
+    edit->setParent(nullptr);
+    EXPECT_FALSE(edit->EditLabel->isVisible());
+    delete edit;
+}
+
+TEST_F(Rotulado, LabelWithoutRoomStartsAtTheTopEdge)
+{
+    edit->move(0, 6);
+    janela.Abrir();
+    EXPECT_EQ(edit->EditLabel->y(), 0);
+}
+
+TEST_F(Rotulado, EmptyCaptionShowsNoLabel)
+{
+    janela.Abrir();
+    edit->SetCaption(QString());
+    EXPECT_FALSE(edit->EditLabel->isVisible());
+}
+
+TEST_F(Rotulado, CaptionIsTheAccessibleName)
+{
+    janela.Abrir();
+    QAccessibleInterface *acesso = QAccessible::queryAccessibleInterface(edit);
+    ASSERT_NE(acesso, nullptr);
+    EXPECT_EQ(acesso->text(QAccessible::Name), QStringLiteral("Descrição"));
+    edit->SetCaption(QStringLiteral("&Nome"));
+    EXPECT_EQ(acesso->text(QAccessible::Name), QStringLiteral("Nome"));
+}
+
+TEST_F(Rotulado, EitherMayDieFirst)
+{
+    janela.Abrir();
+    const QPointer<TBoundLabel> rotulo = edit->EditLabel;
+    delete edit;
+    EXPECT_TRUE(rotulo.isNull());
+    auto *outro = new TLabeledEdit(&janela);
+    delete outro->EditLabel;
+    EXPECT_EQ(outro->GetCaption(), QString());
+    outro->SetCaption(QStringLiteral("x"));
+    outro->move(5, 5);
+    delete outro;
+    auto *pai = new QWidget;
+    new TLabeledEdit(pai);
+    delete pai;
+}
+
+TEST_F(Rotulado, DescendersAreNotCutIn21Pixels)
+{
+    edit->setText(QStringLiteral("gjpqy"));
+    janela.Abrir();
+    const QImage imagem = edit->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QImage alto = [&] {
+        edit->resize(120, 41);
+        return edit->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    }();
+    // The same ink in a low and in a high edit: nothing of it fell off.
+    const auto tinta = [](const QImage &img) {
+        int escuros = 0;
+        for (int y = 3; y < img.height() - 3; ++y) {
+            for (int x = 3; x < img.width() - 3; ++x)
+                escuros += qGray(img.pixel(x, y)) < 128 ? 1 : 0;
+        }
+        return escuros;
+    };
+    EXPECT_GT(tinta(imagem), 20);
+    EXPECT_EQ(tinta(imagem), tinta(alto));
+}
+
+TEST_F(Rotulado, LayoutsCanPlaceAndSetIt)
+{
+    EXPECT_TRUE(ClassesRegistradas().contains(QStringLiteral("TLabeledEdit")));
+    edit->setProperty("caption", QStringLiteral("Nome"));
+    edit->setProperty("labelSpacing", 3);
+    edit->setProperty("readOnly", true);
+    edit->setProperty("alignment", int(Qt::AlignRight));
+    EXPECT_EQ(edit->EditLabel->text(), QStringLiteral("Nome"));
+    EXPECT_EQ(edit->GetLabelSpacing(), 3);
+    EXPECT_TRUE(edit->isReadOnly());
+    EXPECT_TRUE(edit->alignment() & Qt::AlignRight);
+}

@@ -1,0 +1,168 @@
+#include "platform/toolkit/TMemo.h"
+
+#include "support/Widgets.h"
+
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTextBlock>
+
+using namespace ficha;
+using namespace ficha::testes;
+
+namespace
+{
+
+struct Memo : testing::Test {
+    void Fim() { memo.moveCursor(QTextCursor::End); }
+
+    TAvisos avisos;
+    TMemo memo;
+};
+
+} // namespace
+
+TEST_F(Memo, LinesLeaveJoinedWithBothLineBreakCharacters)
+{
+    memo.SetText(QStringLiteral("um\ndois\r\ntrês\rquatro"));
+    EXPECT_EQ(memo.GetText(), QStringLiteral("um\r\ndois\r\ntrês\r\nquatro"));
+    EXPECT_EQ(memo.GetTamanho(), memo.GetText().size());
+    EXPECT_EQ(memo.GetLinhas().size(), 4);
+    memo.SetText(QStringLiteral("a\r\n"));
+    EXPECT_EQ(memo.GetText(), QStringLiteral("a\r\n"));
+    memo.Clear();
+    EXPECT_EQ(memo.GetText(), QString());
+    EXPECT_TRUE(memo.GetLinhas().isEmpty());
+    memo.SetLinhas({QStringLiteral("x"), QStringLiteral("y")});
+    EXPECT_EQ(memo.GetText(), QStringLiteral("x\r\ny"));
+}
+
+TEST_F(Memo, AnnouncesEachChangeOnce)
+{
+    QSignalSpy mudou(&memo, &QPlainTextEdit::textChanged);
+    int chamadas = 0;
+    memo.OnChange = [&](QObject *) { ++chamadas; };
+    memo.SetText(QStringLiteral("a\r\nb"));
+    memo.SetText(QStringLiteral("a\nb"));
+    EXPECT_EQ(mudou.count(), 1);
+    Fim();
+    QTest::keyClick(&memo, Qt::Key_C);
+    EXPECT_EQ(mudou.count(), 2);
+    ColarTexto(&memo, QStringLiteral("xyz"));
+    EXPECT_EQ(mudou.count(), 3);
+    EXPECT_EQ(chamadas, 3);
+    memo.SetText(QStringLiteral("outro"));
+    EXPECT_EQ(memo.toPlainText(), QStringLiteral("outro"));
+    EXPECT_EQ(mudou.count(), 4);
+}
+
+TEST_F(Memo, TabLeaves)
+{
+    TJanela janela;
+    auto *a = new TMemo(&janela);
+    auto *b = new TMemo(&janela);
+    b->move(0, 100);
+    janela.Abrir();
+    a->setFocus();
+    QTest::keyClick(a, Qt::Key_Tab);
+    EXPECT_TRUE(b->hasFocus());
+    EXPECT_EQ(a->GetText(), QString());
+}
+
+TEST_F(Memo, LimitBindsTypingAndCutsThePaste)
+{
+    memo.SetMaxLength(5);
+    QTest::keyClicks(&memo, QStringLiteral("abc"));
+    QTest::keyClick(&memo, Qt::Key_Return);
+    EXPECT_EQ(memo.GetText(), QStringLiteral("abc\r\n"));
+    QTest::keyClicks(&memo, QStringLiteral("d"));
+    EXPECT_EQ(memo.GetText(), QStringLiteral("abc\r\n"));
+    memo.Clear();
+    QTest::keyClicks(&memo, QStringLiteral("abcd"));
+    QTest::keyClick(&memo, Qt::Key_Return);
+    EXPECT_EQ(memo.GetText(), QStringLiteral("abcd"));
+    memo.Clear();
+    ColarTexto(&memo, QStringLiteral("ab\ncdef"));
+    EXPECT_EQ(memo.GetText(), QStringLiteral("ab\r\nc"));
+    memo.selectAll();
+    ColarTexto(&memo, QStringLiteral("123456"));
+    EXPECT_EQ(memo.GetText(), QStringLiteral("12345"));
+    memo.SetText(QStringLiteral("do programa, inteiro"));
+    EXPECT_EQ(memo.GetText(), QStringLiteral("do programa, inteiro"));
+}
+
+TEST_F(Memo, GateRefusesForeignCharacters)
+{
+    QTest::keyClicks(&memo, QStringLiteral("10"));
+    Tecla(&memo, 0, QStringLiteral("€"));
+    EXPECT_EQ(memo.GetText(), QStringLiteral("10"));
+    EXPECT_EQ(avisos.textos.size(), 1);
+    memo.selectAll();
+    ColarTexto(&memo, QStringLiteral("linha 1\nlinha “2”"));
+    EXPECT_EQ(memo.GetText(), QStringLiteral("10"));
+    EXPECT_EQ(memo.textCursor().selectedText(), QStringLiteral("10"));
+    EXPECT_EQ(avisos.textos.size(), 2);
+    Compor(&memo, QStringLiteral("😀"));
+    EXPECT_EQ(memo.GetText(), QStringLiteral("10"));
+    EXPECT_EQ(avisos.textos.size(), 3);
+    Compor(&memo, QStringLiteral("ã"));
+    EXPECT_EQ(memo.GetText(), QStringLiteral("ã"));
+}
+
+TEST_F(Memo, DropPassesTheGateAndWarnsAfterwards)
+{
+    TJanela janela;
+    auto *dentro = new TMemo(&janela);
+    dentro->resize(200, 100);
+    janela.Abrir();
+    Soltar(dentro->viewport(), QPoint(50, 10), QStringLiteral("a\tb"));
+    EXPECT_EQ(dentro->GetText(), QStringLiteral("a b"));
+    Soltar(dentro->viewport(), QPoint(50, 10), QStringLiteral("€"));
+    EXPECT_EQ(dentro->GetText(), QStringLiteral("a b"));
+    EXPECT_TRUE(avisos.textos.isEmpty());
+    QTest::qWait(1);
+    EXPECT_EQ(avisos.textos.size(), 1);
+}
+
+TEST_F(Memo, RichTextIsPastedPlain)
+{
+    auto *dados = new QMimeData;
+    dados->setHtml(QStringLiteral("<b>negrito</b>"));
+    dados->setText(QStringLiteral("negrito"));
+    QApplication::clipboard()->setMimeData(dados);
+    QTest::keyClick(&memo, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(memo.GetText(), QStringLiteral("negrito"));
+    EXPECT_FALSE(memo.document()->begin().begin().fragment().charFormat().hasProperty(
+        QTextFormat::FontWeight));
+}
+
+TEST_F(Memo, ReadOnlyTakesNothing)
+{
+    memo.SetText(QStringLiteral("abc"));
+    memo.setReadOnly(true);
+    QTest::keyClicks(&memo, QStringLiteral("x"));
+    ColarTexto(&memo, QStringLiteral("y"));
+    EXPECT_EQ(memo.GetText(), QStringLiteral("abc"));
+}
+
+TEST_F(Memo, PropertiesForLayouts)
+{
+    memo.setProperty("text", QStringLiteral("a"));
+    memo.setProperty("maxLength", 3);
+    memo.setProperty("tag", 1);
+    memo.setProperty("color", 0x00FFFF00);
+    EXPECT_EQ(memo.GetText(), QStringLiteral("a"));
+    EXPECT_EQ(memo.GetMaxLength(), 3);
+    EXPECT_EQ(memo.Tag, 1);
+    EXPECT_EQ(memo.palette().color(QPalette::Base), QColor(0, 255, 255));
+    EXPECT_STREQ(memo.metaObject()->userProperty().name(), "text");
+}
+
+TEST_F(Memo, BurstOfKeysLosesNone)
+{
+    memo.SetMaxLength(1000);
+    QString tudo;
+    for (int i = 0; i < 200; ++i)
+        tudo += QChar(u'a' + i % 26);
+    QTest::keyClicks(&memo, tudo);
+    EXPECT_EQ(memo.GetText(), tudo);
+}

@@ -1,0 +1,87 @@
+#include "platform/toolkit/TPanel.h"
+
+#include "support/Widgets.h"
+
+#include <QImage>
+
+using namespace ficha;
+using namespace ficha::testes;
+
+namespace
+{
+
+/** The dark pixels of a picture, as the rectangle around them. */
+QRect Tinta(const QImage &imagem)
+{
+    QRect tinta;
+    for (int y = 2; y < imagem.height() - 2; ++y) {
+        for (int x = 2; x < imagem.width() - 2; ++x) {
+            if (qGray(imagem.pixel(x, y)) < 128)
+                tinta |= QRect(x, y, 1, 1);
+        }
+    }
+    return tinta;
+}
+
+} // namespace
+
+TEST(Panel, CaptionIsCentred)
+{
+    TPanel painel;
+    painel.resize(200, 40);
+    painel.SetCaption(QStringLiteral("Aguarde..."));
+    const QRect tinta = Tinta(painel.grab().toImage());
+    ASSERT_FALSE(tinta.isEmpty());
+    EXPECT_NEAR(tinta.center().x(), 100, 4);
+    EXPECT_NEAR(tinta.center().y(), 20, 4);
+    painel.SetAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    EXPECT_LT(Tinta(painel.grab().toImage()).left(), 10);
+}
+
+TEST(Panel, ColoursAreColorIntegers)
+{
+    TPanel painel;
+    painel.resize(50, 20);
+    painel.setProperty("color", 11895386);
+    EXPECT_EQ(painel.grab().toImage().pixelColor(25, 10), QColor(90, 130, 181));
+    EXPECT_EQ(painel.property("color").toInt(), 11895386);
+    painel.setProperty("fontColor", 255);
+    EXPECT_EQ(painel.GetFontColor(), TColor(255));
+    EXPECT_EQ(painel.palette().color(QPalette::WindowText), QColor(255, 0, 0));
+}
+
+TEST(Panel, TakesTheColourOfItsParentUntilItHasOne)
+{
+    TPanel fora;
+    fora.resize(50, 50);
+    fora.SetColor(TColor(0x00FF0000));
+    auto *dentro = new TPanel(&fora);
+    dentro->resize(50, 50);
+    EXPECT_EQ(fora.grab().toImage().pixelColor(25, 25), QColor(0, 0, 255));
+}
+
+TEST(Panel, BevelsAreFrames)
+{
+    TPanel painel;
+    EXPECT_EQ(painel.frameShape(), QFrame::NoFrame);
+    painel.SetBevel(TPanel::bvLowered);
+    EXPECT_EQ(painel.frameShape(), QFrame::Panel);
+    EXPECT_EQ(painel.frameShadow(), QFrame::Sunken);
+    painel.SetBevel(TPanel::bvRaised);
+    EXPECT_EQ(painel.frameShadow(), QFrame::Raised);
+    painel.SetBevel(TPanel::bvNone);
+    EXPECT_EQ(painel.frameShape(), QFrame::NoFrame);
+    painel.setProperty("bevel", int(TPanel::bvLowered));
+    EXPECT_EQ(painel.GetBevel(), TPanel::bvLowered);
+}
+
+TEST(Panel, ClickIsTold)
+{
+    TPanel painel;
+    painel.resize(50, 20);
+    int cliques = 0;
+    painel.OnClick = [&](QObject *) { ++cliques; };
+    QTest::mouseClick(&painel, Qt::LeftButton);
+    QTest::mouseClick(&painel, Qt::RightButton);
+    EXPECT_EQ(cliques, 1);
+}
