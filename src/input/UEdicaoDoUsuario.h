@@ -11,19 +11,21 @@ namespace ficha
  *
  * A screen without records starts an insertion instead, which empties every input: what the user
  * has just entered is put back, as a key that lands after its handler would. Where the screen
- * refuses, the stored value comes back.
+ * refuses, the stored value comes back. Answers whether the text was put back.
  */
 template <typename TEdit>
-void EditadoPeloUsuario(TDBControlBasFr &frame, TEdit &edit, TPedidoDeEdicao &pedido)
+bool EditadoPeloUsuario(TDBControlBasFr &frame, TEdit &edit, TPedidoDeEdicao &pedido)
 {
     if (!frame.Tabela || frame.Tabela->Status != TStatus::Ocioso)
-        return;
+        return false;
     const QString texto = edit.GetText();
     const QPointer<QWidget> vivo(&frame);
     pedido.Depois();
     const bool aberta = vivo && frame.Tabela && frame.Tabela->Status != TStatus::Ocioso;
-    if (aberta && edit.GetText() != texto)
-        edit.SetText(texto);
+    if (!aberta || edit.GetText() == texto)
+        return false;
+    edit.SetText(texto);
+    return true;
 }
 
 } // namespace ficha

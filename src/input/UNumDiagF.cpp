@@ -30,6 +30,7 @@ void TNumDiagF::FormShow(QObject *sender)
     AcomodarTitulo();
     TDiagBasF::FormShow(sender);
     NumEditBRBasFr->NumEditBR1->setFocus();
+    NumEditBRBasFr->NumEditBR1->selectAll();
 }
 
 void TNumDiagF::AcomodarTitulo()

@@ -29,7 +29,8 @@ public:
 
 protected:
     void PegarComponentes() override;
-    /** The number gets the focus. A title of several lines pushes the number and the bottom down.
+    /** The number gets the focus, all selected. A title of several lines pushes the number and the
+     * bottom down.
      */
     void FormShow(QObject *sender) override;
 

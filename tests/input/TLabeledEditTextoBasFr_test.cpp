@@ -184,6 +184,24 @@ TEST_F(TLabeledEditTextoBasFrTest, ARepeatedValueWarnsOnceOnLeavingAndKeepsTheFo
     EXPECT_EQ(Foco(), depois);
 }
 
+TEST_F(TLabeledEditTextoBasFrTest, ARefusedAlterationShowsTheStoredTextAgain)
+{
+    AbrirTabela();
+    Montar();
+    Prender(fr, "descr", QStringLiteral("Nome"));
+    tela.recusa = true;
+    edit->setFocus();
+    edit->setCursorPosition(0);
+    Teclar(edit, u'x');
+    EXPECT_EQ(edit->text(), QStringLiteral("um"));
+    edit->setCursorPosition(0);
+    Teclar(edit, Qt::Key_Delete);
+    EXPECT_EQ(edit->text(), QStringLiteral("um"));
+    Colar(edit, QStringLiteral("colado"));
+    EXPECT_EQ(edit->text(), QStringLiteral("um"));
+    EXPECT_EQ(avisos.size(), 3) << "each is told once";
+}
+
 TEST_F(TLabeledEditTextoBasFrTest, DescendantsHearKeysAndMouse)
 {
     auto *ouvinte = Mostrado<TOuvinteFr>();

@@ -55,8 +55,10 @@ TEST_F(TNumDiagFTest, LayoutIsTheGoldenOne)
 
 TEST_F(TNumDiagFTest, TheNumberHasTheFocusAndOkGivesIt)
 {
+    diag->NumEditBRBasFr->SetValor(10);
     const bool ok = Executar([&] {
         EXPECT_EQ(QApplication::focusWidget(), edit);
+        EXPECT_EQ(edit->selectedText(), QStringLiteral("10"));
         QTest::keyClicks(edit, QStringLiteral("42"));
         QTest::mouseClick(diag->OkButton, Qt::LeftButton);
     });
