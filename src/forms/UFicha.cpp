@@ -1,0 +1,33 @@
+#include "forms/UFicha.h"
+
+#include "forms/UImg16D.h"
+#include "forms/UImgD.h"
+#include "forms/ULocalizBasF.h"
+#include "forms/UTabLinearD.h"
+#include "platform/core/Erros.h"
+
+namespace ficha
+{
+
+TFicha::TFicha()
+{
+    if (TabLinearD)
+        throw EErro(QStringLiteral("A biblioteca já está iniciada neste programa."));
+    imagens = std::make_unique<TImgD>();
+    imagens->Instalar();
+    tabLinearD = std::make_unique<TTabLinearD>();
+    img16D = std::make_unique<TImg16D>();
+    localizBasF.reset(Criar<TLocalizBasF>(nullptr));
+    TabLinearD = tabLinearD.get();
+    Img16D = img16D.get();
+    LocalizBasF = localizBasF.get();
+}
+
+TFicha::~TFicha()
+{
+    LocalizBasF = nullptr;
+    Img16D = nullptr;
+    TabLinearD = nullptr;
+}
+
+} // namespace ficha

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+
+namespace ficha
+{
+
+class TImgD;
+class TImg16D;
+class TLocalizBasF;
+class TTabLinearD;
+
+/**
+ * The library as a program uses it: made after the QApplication and before the first screen, it
+ * creates the three objects that live for the whole process (LocalizBasF, TabLinearD, Img16D) and
+ * gives SisD() pictures where the host installed none; its end frees them all.
+ *
+ *     QApplication app(argc, argv);
+ *     ficha::TFicha biblioteca;
+ *
+ * There is one at a time; a second raises EErro.
+ */
+class TFicha
+{
+public:
+    TFicha();
+    ~TFicha();
+    TFicha(const TFicha &) = delete;
+    TFicha &operator=(const TFicha &) = delete;
+
+private:
+    std::unique_ptr<TImgD> imagens;
+    std::unique_ptr<TTabLinearD> tabLinearD;
+    std::unique_ptr<TImg16D> img16D;
+    std::unique_ptr<TLocalizBasF> localizBasF;
+};
+
+} // namespace ficha

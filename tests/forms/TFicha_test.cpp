@@ -1,0 +1,87 @@
+#include "forms/UFicha.h"
+
+#include "forms/UImg16D.h"
+#include "forms/UImgD.h"
+#include "forms/ULocalizBasF.h"
+#include "forms/UTabLinearD.h"
+#include "platform/core/Erros.h"
+#include "platform/support/SisD.h"
+#include "platform/toolkit/TImageList.h"
+
+#include <gtest/gtest.h>
+
+namespace ficha::testes
+{
+
+TEST(TFichaTest, TheThreeProcessWideObjectsLiveAsLongAsTheLibraryObject)
+{
+    EXPECT_EQ(LocalizBasF, nullptr);
+    {
+        const TFicha biblioteca;
+        EXPECT_NE(LocalizBasF, nullptr);
+        EXPECT_NE(TabLinearD, nullptr);
+        EXPECT_NE(Img16D, nullptr);
+        EXPECT_FALSE(LocalizBasF->isVisible());
+        EXPECT_THROW(TFicha(), EErro);
+        EXPECT_NE(LocalizBasF, nullptr);
+    }
+    EXPECT_EQ(LocalizBasF, nullptr);
+    EXPECT_EQ(TabLinearD, nullptr);
+    EXPECT_EQ(Img16D, nullptr);
+    const TFicha outra;
+    EXPECT_NE(LocalizBasF, nullptr);
+}
+
+TEST(TFichaTest, TabLinearDHasTheStatedListsAndPictures)
+{
+    const TFicha biblioteca;
+    EXPECT_EQ(TabLinearD->BarraImageList->GetSize(), QSize(24, 24));
+    EXPECT_EQ(TabLinearD->BarraDisImageList->GetSize(), QSize(24, 24));
+    EXPECT_EQ(TabLinearD->BarraImageList16->GetSize(), QSize(16, 16));
+    EXPECT_EQ(TabLinearD->BarraDisImageList16->GetSize(), QSize(16, 16));
+    for (const TImageList *lista : {TabLinearD->BarraImageList, TabLinearD->BarraDisImageList,
+                                    TabLinearD->BarraImageList16, TabLinearD->BarraDisImageList16})
+        for (int i : {2, 3, 4, 5, 9, 10}) {
+            const QPixmap figura = lista->GetPixmap(i);
+            EXPECT_EQ(figura.size(), lista->GetSize()) << i;
+            EXPECT_NE(figura.toImage().convertToFormat(QImage::Format_ARGB32),
+                      QImage(figura.size(), QImage::Format_ARGB32))
+                << i;
+        }
+}
+
+TEST(TFichaTest, Img16DHasThePicturesOfTheGridFrames)
+{
+    const TFicha biblioteca;
+    EXPECT_EQ(Img16D->ImageList16->GetSize(), QSize(16, 16));
+    for (int i : {0, 1, 2, 3})
+        EXPECT_TRUE(Img16D->ImageList16->Tem(i)) << i;
+}
+
+TEST(TFichaTest, TheHostImageModuleIsFilledWhereTheHostHasNone)
+{
+    TImageList doHost;
+    EXPECT_EQ(SisD().ImageList16, nullptr);
+    {
+        const TFicha biblioteca;
+        ASSERT_NE(SisD().ImageList16, nullptr);
+        for (int i : {1, 2, 3, 9, 10, 16, 17, 19, 20, 29, 30, 45, 46, 49, 50, 51, 52}) {
+            EXPECT_TRUE(SisD().ImageList16->Tem(i)) << i;
+            EXPECT_TRUE(SisD().DisImageList16->Tem(i)) << i;
+        }
+        for (int i : {8, 9, 25, 26})
+            EXPECT_TRUE(SisD().ImageList->Tem(i)) << i;
+    }
+    EXPECT_EQ(SisD().ImageList16, nullptr);
+    EXPECT_EQ(SisD().DisImageList16, nullptr);
+    SisD().ImageList16 = &doHost;
+    {
+        const TFicha biblioteca;
+        EXPECT_EQ(SisD().ImageList16, &doHost);
+        EXPECT_EQ(SisD().DisImageList16, nullptr);
+    }
+    EXPECT_EQ(SisD().ImageList16, &doHost);
+    SisD().ImageList16 = nullptr;
+}
+
+} // namespace ficha::testes
