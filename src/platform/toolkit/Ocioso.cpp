@@ -4,11 +4,13 @@
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
+#include <QEvent>
 #include <QPointer>
 #include <QScopedValueRollback>
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace ficha
@@ -30,15 +32,49 @@ std::vector<std::shared_ptr<TAtualizacao>> &Atualizacoes()
     return lista;
 }
 
+/** Counts what happens in the program: every event that is delivered. */
+class TContador : public QObject
+{
+public:
+    using QObject::QObject;
+    quint64 Eventos = 0;
+    quint64 NoUltimoBloqueio = 0;
+    quint64 NaUltimaVez = 0;
+
+    /**
+     * The program is about to wait. Some event dispatchers say so before they have delivered all
+     * that there is, so another round is asked for until one finds nothing to do.
+     */
+    void AoEsperar(QAbstractEventDispatcher *despachante)
+    {
+        if (std::exchange(NoUltimoBloqueio, Eventos) != Eventos) {
+            despachante->wakeUp();
+        } else if (NaUltimaVez != Eventos) {
+            ExecutarOcioso();
+            // What the updates did by direct calls is no new happening.
+            NaUltimaVez = NoUltimoBloqueio = Eventos;
+        }
+    }
+
+protected:
+    bool eventFilter(QObject *, QEvent *) override
+    {
+        ++Eventos;
+        return false;
+    }
+};
+
 /** The dispatcher is made anew with each application; hook into the one of now. */
 void LigarAoDespachante()
 {
-    static QPointer<QAbstractEventDispatcher> ligado;
+    static QPointer<TContador> contador;
     QAbstractEventDispatcher *agora = QAbstractEventDispatcher::instance();
-    if (!agora || ligado == agora)
+    if (!agora || !qApp || contador)
         return;
-    ligado = agora;
-    QObject::connect(agora, &QAbstractEventDispatcher::aboutToBlock, agora, &ExecutarOcioso);
+    contador = new TContador(qApp);
+    qApp->installEventFilter(contador);
+    QObject::connect(agora, &QAbstractEventDispatcher::aboutToBlock, contador,
+                     [agora] { contador->AoEsperar(agora); });
 }
 
 void Executar(TAtualizacao &a)

@@ -12,6 +12,11 @@
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QScopeGuard>
+#include <QThread>
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
 
 namespace ficha
 {
@@ -128,8 +133,7 @@ void TForm::Show()
             sub->mdiArea()->setActiveSubWindow(sub);
         return;
     }
-    raise();
-    activateWindow();
+    VirParaAFrente();
 }
 
 void TForm::Hide()
@@ -154,11 +158,22 @@ void TForm::Release()
     if (liberado)
         return;
     liberado = true;
-    QMdiSubWindow *sub = SubJanela();
+    nivelAoLiberar = qMax(1, QThread::currentThread()->loopLevel());
     Hide();
     deleteLater();
-    if (sub)
-        sub->deleteLater();
+}
+
+/**
+ * A released form waits until the event loop in which it was released comes round: code of its own
+ * that opened a nested loop (a dialog, a message box) may still be running.
+ */
+bool TForm::CedoParaDestruir()
+{
+    if (!liberado || QThread::currentThread()->loopLevel() <= nivelAoLiberar)
+        return false;
+    constexpr int ms = 100;
+    QTimer::singleShot(ms, this, &QObject::deleteLater);
+    return true;
 }
 
 int TForm::ShowModal()
@@ -177,8 +192,8 @@ int TForm::ShowModal()
     const QPointer<QWidget> antes = QApplication::activeWindow();
     setWindowModality(Qt::ApplicationModal);
     show();
-    raise();
-    activateWindow();
+    if (vivo && laco)
+        VirParaAFrente();
     if (vivo && laco)
         espera.exec(QEventLoop::DialogExec);
     // Where no window manager does it, the window below becomes active again by this.
@@ -239,16 +254,36 @@ void TForm::SetActiveControl(QWidget *controle)
     controle->setFocus(Qt::OtherFocusReason);
 }
 
+/** The widgets of the form in tab order, those that take no focus included. */
+QList<QWidget *> TForm::OrdemDeTabulacao() const
+{
+    QList<QWidget *> ordem;
+    for (QWidget *w = nextInFocusChain(); w && w != this; w = w->nextInFocusChain())
+        if (isAncestorOf(w))
+            ordem << w;
+    return ordem;
+}
+
 bool TForm::SelectNext(QWidget *controle, bool paraFrente)
 {
-    QWidget *inicio = controle ? controle : this;
-    const auto passo = [paraFrente](QWidget *w) {
-        return paraFrente ? w->nextInFocusChain() : w->previousInFocusChain();
+    QList<QWidget *> ordem = OrdemDeTabulacao();
+    if (!paraFrente)
+        std::reverse(ordem.begin(), ordem.end());
+    const auto dentro = [controle](const QWidget *w) {
+        return controle && (w == controle || controle->isAncestorOf(w));
     };
-    for (QWidget *w = passo(inicio); w && w != inicio; w = passo(w)) {
-        const bool fora = controle && controle->isAncestorOf(w);
-        if (fora || !isAncestorOf(w) || w->focusProxy() || !(w->focusPolicy() & Qt::TabFocus) ||
-            !w->isEnabled() || !w->isVisibleTo(this))
+    const auto parada = [this](const QWidget *w) {
+        return !w->focusProxy() && (w->focusPolicy() & Qt::TabFocus) && w->isEnabled() &&
+               w->isVisibleTo(this);
+    };
+    // From behind the last stop inside the control, or from where the control itself stands.
+    qsizetype inicio = ordem.indexOf(controle);
+    for (qsizetype i = 0; i < ordem.size(); ++i)
+        if (dentro(ordem[i]) && parada(ordem[i]))
+            inicio = i;
+    for (qsizetype k = 1; k <= ordem.size(); ++k) {
+        QWidget *w = ordem[(inicio + k) % ordem.size()];
+        if (dentro(w) || !parada(w))
             continue;
         w->setFocus(paraFrente ? Qt::TabFocusReason : Qt::BacktabFocusReason);
         return true;
@@ -338,7 +373,11 @@ bool TForm::event(QEvent *evento)
 {
     switch (evento->type()) {
     case QEvent::DeferredDelete:
+        if (CedoParaDestruir())
+            return true;
         Destruindo();
+        if (QMdiSubWindow *sub = SubJanela(); sub && liberado)
+            sub->deleteLater();
         break;
     case QEvent::ParentChange:
         LigarSubJanela();
@@ -365,7 +404,11 @@ void TForm::showEvent(QShowEvent *evento)
     if (evento->spontaneous() || !criado)
         return;
     LigarSubJanela();
+    mostrado = true;
+    const QPointer<TForm> vivo = this;
     Protegido([this] { FormShow(this); });
+    if (vivo && std::exchange(ativarAoMostrar, false))
+        TornarAtivo();
 }
 
 void TForm::hideEvent(QHideEvent *evento)
@@ -373,6 +416,7 @@ void TForm::hideEvent(QHideEvent *evento)
     QWidget::hideEvent(evento);
     if (evento->spontaneous())
         return;
+    mostrado = ativarAoMostrar = false;
     const QPointer<TForm> vivo = this;
     if (Ativo() == this) {
         Ativo() = nullptr;
@@ -467,10 +511,23 @@ void TForm::LigarSubJanela()
     });
 }
 
+void TForm::VirParaAFrente()
+{
+    raise();
+    activateWindow();
+    // Where a window keeps the focus while it is hidden, nobody tells that it is active again.
+    if (windowHandle() && QGuiApplication::focusWindow() == windowHandle() && !isActiveWindow())
+        QApplication::setActiveWindow(this);
+}
+
 void TForm::TornarAtivo()
 {
     if (Ativo() == this || !criado)
         return;
+    if (!mostrado) {
+        ativarAoMostrar = true;
+        return;
+    }
     const QPointer<TForm> antes = Ativo();
     const QPointer<TForm> vivo = this;
     Ativo() = this;

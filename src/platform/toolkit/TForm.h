@@ -169,16 +169,21 @@ protected:
 
 private:
     void AplicarJanela();
+    bool CedoParaDestruir();
     bool ConsultarFechamento();
     bool Fechar();
     void VerificarModal();
     void LigarSubJanela();
     void TornarAtivo();
+    void VirParaAFrente();
+    QList<QWidget *> OrdemDeTabulacao() const;
     QPushButton *BotaoQue(bool cancela) const;
 
     BorderStyle borda = bsSizeable;
     bool sobreTudo = false;
     bool criado = false, destruido = false, liberado = false, fechando = false;
+    bool mostrado = false, ativarAoMostrar = false;
+    int nivelAoLiberar = 0;
     int resultado = mrNone;
     QEventLoop *laco = nullptr;
     QPointer<QMdiSubWindow> ligada;
