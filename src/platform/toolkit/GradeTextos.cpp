@@ -13,7 +13,7 @@ constexpr int LinhasPorBloco = 1 << BitsDoBloco;
 constexpr int MaxCurto = 7;
 constexpr unsigned char LongoLatin1 = 0xF0, LongoUtf16 = 0xF1;
 constexpr std::uint32_t PrimeiroBloco = 4 * 1024, MaiorBloco = 256 * 1024;
-constexpr qint64 PerdaIgnorada = 64 * 1024;
+constexpr qint64 PerdaIgnorada = 65'536;
 
 bool EhLongo(unsigned char tipo)
 {
@@ -78,7 +78,7 @@ bool TGradeTextos::Gravar(int col, int row, QStringView texto)
 
 qint64 TGradeTextos::Bytes() const
 {
-    qint64 soma = qint64(blocos.capacity() * sizeof(blocos[0])) +
+    qint64 soma = qint64(blocos.capacity() * sizeof(std::vector<TCelula>)) +
                   qint64(arena.blocos.capacity() * sizeof(TBlocoTextos));
     for (const auto &bloco : blocos)
         soma += qint64(bloco.capacity() * sizeof(TCelula));
