@@ -376,8 +376,10 @@ bool TForm::event(QEvent *evento)
         if (CedoParaDestruir())
             return true;
         Destruindo();
-        if (QMdiSubWindow *sub = SubJanela(); sub && liberado)
-            sub->deleteLater();
+        if (QMdiSubWindow *sub = SubJanela(); sub && liberado) {
+            delete sub; // and the form in it
+            return true;
+        }
         break;
     case QEvent::ParentChange:
         LigarSubJanela();
