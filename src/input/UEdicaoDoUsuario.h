@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/UDBControlBasFr.h"
 #include "input/UPedidoDeEdicao.h"
 #include "records/UTabelaLinear.h"
 

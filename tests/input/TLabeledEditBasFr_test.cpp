@@ -407,6 +407,35 @@ TEST_F(TLabeledEditBasFrTest, LeavingWithARealMessageBoxKeepsTheFocusToo)
     EXPECT_EQ(Foco(), edit);
 }
 
+TEST_F(TLabeledEditBasFrTest, AClickOnAButtonWithARefusedValueOpensOneBoxAndDoesNotClick)
+{
+    auto *botao = new QPushButton(&tela);
+    botao->move(200, 250);
+    botao->setFocusPolicy(Qt::StrongFocus);
+    Montar();
+    Servicos().MensagemAviso = nullptr;
+    fr->AceitaVazio = false;
+    edit->setFocus();
+    int caixas = 0;
+    int cliques = 0;
+    QObject::connect(botao, &QPushButton::clicked, botao, [&] { ++cliques; });
+    QTimer fechador;
+    QObject::connect(&fechador, &QTimer::timeout, &fechador, [&] {
+        if (QWidget *caixa = QApplication::activeModalWidget()) {
+            ++caixas;
+            caixa->close();
+        }
+    });
+    fechador.start(10);
+    // The release of the button goes to the box, as it does for a user.
+    QTest::mousePress(botao, Qt::LeftButton);
+    QTest::qWait(50);
+    EXPECT_EQ(caixas, 1);
+    EXPECT_EQ(cliques, 0);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&tela));
+    EXPECT_EQ(Foco(), edit);
+}
+
 TEST_F(TLabeledEditBasFrTest, ACharacterThatTheDatabaseCannotHoldIsRefused)
 {
     Montar();
