@@ -178,3 +178,17 @@ TEST_F(TToolBarTeste, ButtonsThatDoNotFitGoToANextRow)
     barra->Ajustar();
     EXPECT_EQ(botoes[2]->pos(), QPoint(46, 0));
 }
+
+TEST_F(TToolBarTeste, CaptionsFitIntoALowBar)
+{
+    TImageList imagens;
+    imagens.AddSvg(0, QStringLiteral("info"));
+    barra->SetImages(&imagens);
+    barra->SetShowCaptions(true);
+    barra->resize(400, 34);
+    barra->Ajustar();
+    EXPECT_EQ(botoes[0]->height(), 34);
+    barra->resize(400, 80);
+    barra->Ajustar();
+    EXPECT_EQ(botoes[0]->height(), botoes[0]->sizeHint().height());
+}

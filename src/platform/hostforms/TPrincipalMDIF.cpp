@@ -108,6 +108,7 @@ void TPrincipalMDIF::PegarComponentes()
     MenuPrincipal = new QMenuBar(this);
     MenuPrincipal->setObjectName(QStringLiteral("MenuPrincipal"));
     layout()->setMenuBar(MenuPrincipal);
+    MdiArea->setBackground(QColor(168, 185, 200));
     MontarJanelaMenu();
 }
 

@@ -295,8 +295,12 @@ QSize TToolBar::TamanhoDe(const TToolButton *botao) const
     if (tipo == TToolButton::tbsSeparator || tipo == TToolButton::tbsDivider)
         return {botao->testAttribute(Qt::WA_Resized) ? botao->width() : 8, buttonHeight};
     QSize s(buttonWidth, buttonHeight);
-    if (showCaptions)
-        s = s.expandedTo(botao->sizeHint());
+    if (!showCaptions)
+        return s;
+    s = s.expandedTo(botao->sizeHint());
+    // A bar that is given less height than captions like keeps its buttons whole.
+    if (testAttribute(Qt::WA_Resized) && contentsRect().height() >= buttonHeight)
+        s.setHeight(qMin(s.height(), contentsRect().height()));
     return s;
 }
 
