@@ -453,6 +453,8 @@ TEST_F(NumEdit, WritingThroughTheBaseClassIsBroughtIntoForm)
     EXPECT_EQ(edit->text(), QStringLiteral("1.234,50"));
     base->setText(QStringLiteral("sete"));
     EXPECT_EQ(edit->text(), QStringLiteral("0,00"));
+    base->setText(QString(30, u'9'));
+    EXPECT_EQ(edit->text(), QStringLiteral("0,00"));
     base->clear();
     EXPECT_EQ(edit->GetValor(), 0);
 }

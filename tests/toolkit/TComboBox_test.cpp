@@ -348,6 +348,12 @@ TEST_F(Combo, FocusOutChangesNothing)
     Abrir();
     combo->SetItemIndex(0);
     combo->SetText(QStringLiteral("SANTOS"));
+    combo->setEditText(QStringLiteral("Campinas"));
+    outro->setFocus();
+    EXPECT_EQ(combo->GetItemIndex(), 2);
+    EXPECT_EQ(mudancas, 0);
+    combo->setFocus();
+    combo->SetText(QStringLiteral("SANTOS"));
     outro->setFocus();
     EXPECT_EQ(combo->GetText(), QStringLiteral("SANTOS"));
     EXPECT_EQ(combo->GetItemIndex(), 1);

@@ -83,9 +83,19 @@ TEST_F(Rotulado, LabelWithoutRoomStartsAtTheTopEdge)
 
 TEST_F(Rotulado, EmptyCaptionShowsNoLabel)
 {
+    auto *sem = new TLabeledEdit(&janela);
+    auto *escondido = new TLabeledEdit(&janela);
+    escondido->SetCaption(QStringLiteral("x"));
+    escondido->hide();
     janela.Abrir();
+    EXPECT_FALSE(sem->EditLabel->isVisible());
+    EXPECT_FALSE(escondido->EditLabel->isVisible());
+    escondido->show();
+    EXPECT_TRUE(escondido->EditLabel->isVisible());
     edit->SetCaption(QString());
     EXPECT_FALSE(edit->EditLabel->isVisible());
+    sem->SetCaption(QStringLiteral("y"));
+    EXPECT_TRUE(sem->EditLabel->isVisible());
 }
 
 TEST_F(Rotulado, CaptionIsTheAccessibleName)

@@ -154,6 +154,22 @@ TEST_F(Radio, LayoutMaySetTheIndexBeforeTheItems)
     EXPECT_EQ(outro.Tag, 1);
 }
 
+TEST_F(Radio, ClickHandlerMayBringNewItemsOrDestroyTheGroup)
+{
+    janela.Abrir();
+    grupo->OnClick = [this](QObject *) { grupo->SetItems({QStringLiteral("novo")}); };
+    QTest::mouseClick(grupo->Botao(0), Qt::LeftButton, {},
+                      QPoint(8, grupo->Botao(0)->height() / 2));
+    EXPECT_EQ(grupo->GetItems(), QStringList{QStringLiteral("novo")});
+    EXPECT_EQ(grupo->GetItemIndex(), 0);
+    const QPointer<TRadioGroup> vivo(grupo);
+    grupo->OnClick = [this](QObject *) { grupo->deleteLater(); };
+    grupo->SetItemIndex(-1);
+    grupo->SetItemIndex(0);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(vivo.isNull());
+}
+
 TEST_F(Radio, NewItemsKeepTheIndexWhereItExists)
 {
     grupo->SetItemIndex(1);

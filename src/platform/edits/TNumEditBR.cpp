@@ -192,7 +192,8 @@ void TNumEditBR::AposDigitar()
 void TNumEditBR::TextoDeFora(const QString &texto)
 {
     const auto decimal = LerDecimal(texto);
-    SetDecimal(decimal.value_or(TDecimal()));
+    const bool cabe = decimal && decimal->Escalado(formato.Casas);
+    SetDecimal(cabe ? *decimal : TDecimal());
 }
 
 void TNumEditBR::keyPressEvent(QKeyEvent *evento)

@@ -15,7 +15,9 @@ void AvisarUsuario(const QString &texto)
             Servicos().MensagemAviso(texto, 0);
             return;
         }
-        QMessageBox caixa(QMessageBox::Warning, QStringLiteral("Aviso"), texto,
+        QString linhas = texto;
+        linhas.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+        QMessageBox caixa(QMessageBox::Warning, QStringLiteral("Aviso"), linhas,
                           QMessageBox::NoButton, QApplication::activeWindow());
         caixa.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
         caixa.exec();

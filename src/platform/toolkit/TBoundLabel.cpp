@@ -10,6 +10,7 @@ namespace ficha
 TBoundLabel::TBoundLabel(QWidget *de) : QLabel(de->parentWidget()), controle(de)
 {
     setBuddy(de);
+    hide(); // shown with the edit only, and only with a caption
     setEnabled(de->isEnabledTo(de->parentWidget()));
     stackUnder(de);
     de->installEventFilter(this);

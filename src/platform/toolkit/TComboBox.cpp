@@ -295,6 +295,13 @@ void TComboBox::wheelEvent(QWheelEvent *evento)
     evento->ignore();
 }
 
+void TComboBox::focusOutEvent(QFocusEvent *evento)
+{
+    // On leaving, the list moves to the item of the text; the user changed nothing by that.
+    anunciado = Estado();
+    QComboBox::focusOutEvent(evento);
+}
+
 void TComboBox::MontarEdit()
 {
     auto *edit = new TComboLineEdit(this);

@@ -128,6 +128,7 @@ protected:
     void keyPressEvent(QKeyEvent *evento) override;
     void inputMethodEvent(QInputMethodEvent *evento) override;
     void wheelEvent(QWheelEvent *evento) override;
+    void focusOutEvent(QFocusEvent *evento) override;
 
 private:
     friend class TComboLineEdit;

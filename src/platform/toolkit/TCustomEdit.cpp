@@ -248,11 +248,12 @@ void TCustomEdit::mouseReleaseEvent(QMouseEvent *evento)
 
 void TCustomEdit::dropEvent(QDropEvent *evento)
 {
-    if (isReadOnly() || !evento->mimeData()->hasText()) {
+    const bool daqui = evento->source() == this;
+    if (isReadOnly() || !evento->mimeData()->hasText() || (daqui && TemMotor())) {
         evento->ignore();
         return;
     }
-    if (evento->source() == this) {
+    if (daqui) {
         QLineEdit::dropEvent(evento);
         return;
     }

@@ -18,7 +18,7 @@ FICHA_REGISTRAR_WIDGET(TRadioGroup)
 TRadioGroup::TRadioGroup(QWidget *owner) : QGroupBox(owner), grupo(new QButtonGroup(this))
 {
     auto *grade = new QGridLayout(this);
-    grade->setContentsMargins(8, 2, 8, 4);
+    grade->setContentsMargins(5, 2, 2, 4);
     grade->setSpacing(0);
 }
 
@@ -36,7 +36,7 @@ void TRadioGroup::SetItems(const QStringList &textos)
     const int escolhido = pendente >= 0 ? pendente : GetItemIndex();
     setFocusProxy(nullptr);
     for (const TItem &item : itens)
-        delete item.Botao;
+        Descartar(item.Botao);
     itens.clear();
     for (const QString &texto : textos)
         itens.push_back({NovoBotao(texto), 0, {}});
@@ -119,6 +119,16 @@ QRadioButton *TRadioGroup::NovoBotao(const QString &texto)
     if (isVisible())
         botao->show();
     return botao;
+}
+
+/** Not destroyed at once: it may be the button whose click brings the new items. */
+void TRadioGroup::Descartar(QRadioButton *botao)
+{
+    layout()->removeWidget(botao);
+    grupo->removeButton(botao);
+    botao->disconnect(this);
+    botao->hide();
+    botao->deleteLater();
 }
 
 /** Puts the buttons into the grid, column by column. */
