@@ -191,6 +191,9 @@ void TLocalizBasF::FormClose(QObject *sender, TCloseAction &acao)
     TBasF::FormClose(sender, acao);
     acao = caHide;
     LocalizLabeledEdit->clear();
+    // The user goes on in the screen that was searched, wherever the window manager would go.
+    if (isActiveWindow() && TabF)
+        TabF->activateWindow();
 }
 
 void TLocalizBasF::LocalizActionExecute(QObject *)

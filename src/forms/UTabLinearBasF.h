@@ -216,7 +216,7 @@ protected:
     void IndicarSeAosChild();
 
 private:
-    class TFlagGuarda;
+    enum TPagina { PaginaLista = 0, PaginaCampos = 1 };
 
     bool eventFilter(QObject *objeto, QEvent *evento) override;
     void LigarAcoes();
@@ -226,7 +226,8 @@ private:
     void IrParaCodigo(int cod);
     void PararNoQueNaoDesfaz();
     void GarantirListaAberta();
-    void MostrarPagina(int indice);
+    void MostrarPagina(TPagina pagina);
+    void FocarPagina();
     void FocarPrimeiroCampo();
     void MostrarRegistroDepois();
     void MostrarRegistro();

@@ -78,12 +78,11 @@ TEST_F(TNovoCodigoTest, ATypedCodeAboveTheHighestPlusOneIsReplaced)
     Codigos({1, 2});
     TGruposF *tela = Abrir();
     tela->InsAction->Execute();
-    Ocioso();
+    Digitar(QStringLiteral("roxo"));
     tela->CodFr->NumEditBR1->setFocus();
     tela->CodFr->NumEditBR1->selectAll();
-    QTest::keyClicks(tela->CodFr->NumEditBR1, QStringLiteral("50"));
-    tela->DescrFr->SetFocus();
-    Digitar(QStringLiteral("roxo"));
+    Digitar(QStringLiteral("50"));
+    EXPECT_EQ(tela->CodFr->GetValor(), Variant(50));
     Tecla(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(tela->CodUltimoInserido, 3);
     EXPECT_EQ(DescrNoBanco(3), QStringLiteral("roxo"));

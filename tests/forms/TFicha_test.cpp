@@ -3,10 +3,13 @@
 #include "forms/UImg16D.h"
 #include "forms/UImgD.h"
 #include "forms/ULocalizBasF.h"
+#include "forms/UTabBasF.h"
 #include "forms/UTabLinearD.h"
 #include "platform/core/Erros.h"
 #include "platform/support/SisD.h"
+#include "platform/toolkit/TAction.h"
 #include "platform/toolkit/TImageList.h"
+#include "platform/toolkit/TToolBar.h"
 
 #include <gtest/gtest.h>
 
@@ -82,6 +85,21 @@ TEST(TFichaTest, TheHostImageModuleIsFilledWhereTheHostHasNone)
     }
     EXPECT_EQ(SisD().ImageList16, &doHost);
     SisD().ImageList16 = nullptr;
+}
+
+TEST(TFichaTest, AScreenMayOutliveTheLibraryObject)
+{
+    TTabBasF *tela = nullptr;
+    {
+        const TFicha biblioteca;
+        tela = Criar<TTabBasF>(nullptr);
+        tela->show();
+    }
+    tela->Atualizar();
+    EXPECT_EQ(tela->ToolBar1->GetImages(), nullptr);
+    EXPECT_TRUE(tela->LocalizAction->Execute());
+    EXPECT_TRUE(tela->InsAction->Execute());
+    EXPECT_TRUE(tela->Close());
 }
 
 } // namespace ficha::testes

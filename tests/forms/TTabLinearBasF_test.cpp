@@ -1,6 +1,7 @@
 #include "forms/TelasDeTeste.h"
 #include "forms/ULocalizBasF.h"
 #include "forms/UTabLinearD.h"
+#include "platform/hostforms/TPrincipalMDIF.h"
 #include "platform/support/SisD.h"
 #include "platform/toolkit/Foco.h"
 #include "platform/toolkit/TImageList.h"
@@ -268,6 +269,18 @@ TEST_F(TTabLinearBasFTest, WithSelecaoNavegaOffTheGridMovesAlone)
     EXPECT_EQ(tela->Tab->RecNo, 1);
 }
 
+TEST_F(TTabLinearBasFTest, WithAtualizarLigadoOffSelectingARowHasNoEffectOnTheTable)
+{
+    TresGrupos();
+    TGruposF *tela = Abrir();
+    tela->AtualizarLigado = false;
+    tela->StringGrid1->SetRow(2);
+    EXPECT_EQ(tela->Tab->RecNo, 1);
+    tela->AtualizarLigado = true;
+    tela->StringGrid1->SetRow(3);
+    EXPECT_EQ(tela->Tab->RecNo, 3);
+}
+
 TEST_F(TTabLinearBasFTest, ADoubleClickStartsAnAlterationOnTheFieldsPage)
 {
     TresGrupos();
@@ -314,9 +327,16 @@ TEST_F(TTabLinearBasFTest, EnteringTheFieldsPageGoesToTheFirstMarkedInput)
     TresGrupos();
     TGruposF *tela = Abrir();
     tela->PageControl1->MudarComoUsuario(1);
-    tela->CodFr->SetFocus();
+    EXPECT_EQ(Foco(), tela->Descr());
+    QWidget *abas = tela->PageControl1->tabBar();
+    abas->setFocus();
+    QTest::mouseClick(tela->TipoFr->ComboBox1, Qt::LeftButton);
     Ocioso();
     EXPECT_EQ(Foco(), tela->Descr());
+    // Inside the page the focus goes where the user puts it.
+    tela->CodFr->NumEditBR1->setReadOnly(false);
+    tela->CodFr->SetFocus();
+    EXPECT_EQ(Foco(), tela->CodFr->NumEditBR1);
 }
 
 // ---- inserting -----------------------------------------------------------------------------
@@ -458,10 +478,10 @@ TEST_F(TTabLinearBasFTest, HiddenInputsAreNotAsked)
     TGruposF *tela = Abrir();
     tela->InsAction->Execute();
     EXPECT_EQ(tela->PrimeiroErrado(), tela->DescrFr);
+    tela->DescrFr->hide(); // which leaves it, too
     avisos.clear();
-    tela->DescrFr->hide();
     EXPECT_EQ(tela->PrimeiroErrado(), nullptr);
-    tela->DescrFr->show();
+    EXPECT_TRUE(avisos.isEmpty());
 }
 
 TEST_F(TTabLinearBasFTest, AtivarInsersaoAnswersTrueAlsoWhenNothingIsDone)
@@ -711,6 +731,84 @@ TEST_F(TTabLinearBasFTest, AposChangeStartsAnAlterationForADescendantsOwnInput)
     EXPECT_EQ(tela->Tab->Status, TStatus::Alterando);
 }
 
+TEST_F(TTabLinearBasFTest, AWholeDayWithTheKeyboardAlone)
+{
+    TresGrupos();
+    TGruposF *tela = Abrir();
+    // Alter the second record.
+    Tecla(Qt::Key_Down);
+    Tecla(Qt::Key_A, Qt::ControlModifier);
+    Tecla(Qt::Key_A, Qt::ControlModifier);
+    Digitar(QStringLiteral("musgo"));
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(DescrNoBanco(2), QStringLiteral("musgo"));
+    // Insert another one from where the focus is.
+    Tecla(Qt::Key_I, Qt::ControlModifier | Qt::AltModifier);
+    Digitar(QStringLiteral("preto"));
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(DescrNoBanco(4), QStringLiteral("preto"));
+    // Start one more and think better of it.
+    Tecla(Qt::Key_I, Qt::ControlModifier | Qt::AltModifier);
+    Digitar(QStringLiteral("nada"));
+    Tecla(Qt::Key_Escape);
+    EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
+    // Find the third in the list by its description, and delete it.
+    Tecla(Qt::Key_PageUp, Qt::ControlModifier);
+    tela->StringGrid1->SetCol(1);
+    Tecla(Qt::Key_L, Qt::ControlModifier);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(LocalizBasF));
+    Digitar(QStringLiteral("LILAS"));
+    Tecla(Qt::Key_Return);
+    Tecla(Qt::Key_Escape);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&janela));
+    Ocioso();
+    EXPECT_EQ(tela->Tab->RecNo, 3);
+    Tecla(Qt::Key_Delete, Qt::ControlModifier);
+    EXPECT_EQ(Quantos(), 3);
+    EXPECT_EQ(DescrNoBanco(3), QString());
+    EXPECT_EQ(Foco(), tela->StringGrid1);
+}
+
+TEST_F(TTabLinearBasFTest, AfterAConfirmByMouseTheFocusIsBackOnTheFieldsPage)
+{
+    TresGrupos();
+    TGruposF *tela = Abrir();
+    tela->AltAction->Execute();
+    Ocioso();
+    Digitar(QStringLiteral("s"));
+    QTest::mouseClick(tela->ConfirmBitBtn, Qt::LeftButton);
+    Ocioso();
+    EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
+    EXPECT_EQ(Foco(), tela->Descr());
+}
+
+TEST_F(TTabLinearBasFTest, InTheMainWindowOfTheHost)
+{
+    TresGrupos();
+    auto *principal = Criar<TPrincipalMDIF>(nullptr);
+    principal->resize(900, 600);
+    principal->Show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(principal));
+    TGruposF *tela = principal->Abrir<TGruposF>();
+    QPointer<TTiposF> outra = principal->Abrir<TTiposF>();
+    Ocioso();
+    EXPECT_EQ(principal->Abrir<TGruposF>(), tela);
+    Ocioso();
+    EXPECT_EQ(Foco(), tela->StringGrid1);
+    Tecla(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(tela->Tab->Status, TStatus::Alterando);
+    EXPECT_EQ(outra->Tab->Status, TStatus::Ocioso);
+    EXPECT_EQ(tela->windowTitle(), QStringLiteral("Cadastro de grupos - Alterando"));
+    responde = false;
+    EXPECT_FALSE(principal->Close());
+    EXPECT_EQ(perguntas.size(), 1);
+    responde = true;
+    EXPECT_TRUE(principal->Close());
+    Assentar();
+    EXPECT_FALSE(outra);
+    delete principal;
+}
+
 // ---- re-reading ----------------------------------------------------------------------------
 
 TEST_F(TTabLinearBasFTest, RelerGoesToTheCodeOrToTheEnd)
@@ -853,7 +951,7 @@ TEST_F(TTabLinearBasFTest, AnInsertStoredBeforeItsReReadingFailedIsNotStoredTwic
     tela->CodFr->SetValor(0); // the generator's codes never collide
     Digitar(QStringLiteral("um"));
     const QString lista = tela->GetSQLText();
-    tela->SetSQLText(QStringLiteral("select * from nenhuma"));
+    tela->aoAposInserir = [&] { tela->SetSQLText(QStringLiteral("select * from nenhuma")); };
     Tecla(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(erros.size(), 1);
     erros.clear();
@@ -1224,32 +1322,46 @@ TEST_F(TTabLinearBasFTest, UndoIsEnabledByTheCodedEditAloneAndBringsTheStoredCod
 
 // ---- lifetimes and cost ---------------------------------------------------------------------
 
-TEST_F(TTabLinearBasFTest, TheTableGoesBeforeTheInputs)
+/** Tells whether it still pointed to a table when it was destroyed. */
+class TEspiaFr : public TLabeledEditTextoBasFr
+{
+public:
+    using TLabeledEditTextoBasFr::TLabeledEditTextoBasFr;
+    ~TEspiaFr() override { *tinhaTabela = Tabela != nullptr; }
+    bool *tinhaTabela = nullptr;
+};
+
+TEST_F(TTabLinearBasFTest, TheTableGoesBeforeTheInputsAndReleasesItsLock)
 {
     TresGrupos();
     TGruposF *tela = Abrir();
-    tela->AltAction->Execute();
-    TTabelaLinear *tab = tela->Tab.get();
-    ASSERT_EQ(tela->DescrFr->Tabela, tab);
     bool tinhaTabela = true;
-    QObject::connect(tela->DescrFr, &QObject::destroyed,
-                     [&, fr = tela->DescrFr] { tinhaTabela = fr->Tabela != nullptr; });
-    // The frame is asked while it still is one: its screen's destruction has begun.
-    QObject::connect(tela->StringGrid1, &QObject::destroyed, [] {});
+    auto *espia = Criar<TEspiaFr>(tela->CamposTabSheet);
+    espia->tinhaTabela = &tinhaTabela;
+    tela->Tab->PegarCampo(tela->SQLQuery1->FieldByName("descr"), 50, espia);
+    ASSERT_NE(espia->Tabela, nullptr);
+    tela->AltAction->Execute();
     delete tela;
-    (void)tinhaTabela;
+    EXPECT_FALSE(tinhaTabela);
     TGruposF *outra = Abrir();
     EXPECT_TRUE(outra->AtivarAlteracao());
 }
 
-TEST_F(TTabLinearBasFTest, AScreenOutlivesTheLibrary)
+TEST_F(TTabLinearBasFTest, AnInputMayDieBeforeItsScreen)
 {
     TresGrupos();
-    auto *tela = Criar<TGruposF>(nullptr);
-    tela->Show();
-    // A second library object is refused while this one lives.
-    EXPECT_THROW(TFicha(), EErro);
-    delete tela;
+    TGruposF *tela = Abrir();
+    tela->PageControl1->MudarComoUsuario(1);
+    delete tela->TipoFr;
+    tela->TipoFr = nullptr;
+    tela->MoverParaLinha(2);
+    EXPECT_EQ(tela->Descr()->text(), QStringLiteral("verde"));
+    EXPECT_EQ(tela->PrimeiroErrado(), nullptr);
+    delete tela->CodFr;
+    EXPECT_EQ(TTabLinearBasF::EditCod, nullptr);
+    tela->AtivarInsersao();
+    Ocioso();
+    EXPECT_EQ(tela->Tab->Status, TStatus::Inserindo);
 }
 
 TEST_F(TTabLinearBasFTest, OnePassOfTheEnablingRulesIsCheap)
