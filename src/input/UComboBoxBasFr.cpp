@@ -8,7 +8,12 @@
 #include "platform/toolkit/Teclas.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
+#include <QScreen>
+#include <QStyle>
+
+#include <algorithm>
 
 namespace ficha
 {
@@ -21,9 +26,7 @@ void TComboBoxBasFr::Create(QWidget *owner)
 {
     TDBControlBasFr::Create(owner);
     TitLabel->setBuddy(ComboBox1);
-    // The list measures one row, not every one.
-    if (auto *lista = qobject_cast<QListView *>(ComboBox1->view()))
-        lista->setUniformItemSizes(true);
+    PrepararLista();
     OnEnter = [this](QObject *sender) { FrameEnter(sender); };
     AoTeclaDescer(ComboBox1, [this](int &tecla, Qt::KeyboardModifiers estado) {
         ComboBox1KeyDown(ComboBox1, tecla, estado);
@@ -41,13 +44,13 @@ void TComboBoxBasFr::Create(QWidget *owner)
 void TComboBoxBasFr::SetFocus()
 {
     TDBControlBasFr::SetFocus();
-    ComboBox1->setFocus();
+    FocarLista();
 }
 
 void TComboBoxBasFr::Zerar()
 {
     TDBControlBasFr::Zerar();
-    ComboBox1->SetItemIndex(ItemDoObjeto(0));
+    SelecionarItem(ItemDoObjeto(0));
 }
 
 bool TComboBoxBasFr::ValorAceitavel()
@@ -98,23 +101,30 @@ int TComboBoxBasFr::ItemDoObjeto(std::intptr_t objeto) const
     return ComboBox1->IndexOfObjeto(objeto);
 }
 
+void TComboBoxBasFr::SelecionarItem(int i)
+{
+    ComboBox1->SetItemIndex(i);
+    if (QLineEdit *edit = ComboBox1->lineEdit())
+        edit->home(false);
+}
+
 void TComboBoxBasFr::FrameEnter(QObject *sender)
 {
     TDBControlBasFr::FrameEnter(sender);
-    ComboBox1->setFocus();
+    FocarLista();
 }
 
 void TComboBoxBasFr::FrameExit(QObject *sender)
 {
     if (!ComboBox1->GetText().isEmpty())
-        ComboBox1->SetItemIndex(ItemDoTexto());
+        SelecionarItem(ItemDoTexto());
     const QPointer<TComboBoxBasFr> vivo(this);
     TDBControlBasFr::FrameExit(sender);
     if (!vivo)
         return;
     const int i = ComboBox1->GetItemIndex();
     if (i >= 0 && ComboBox1->GetText() != ComboBox1->Item(i))
-        ComboBox1->SetItemIndex(i);
+        SelecionarItem(i);
 }
 
 void TComboBoxBasFr::ComboBox1Change(QObject *)
@@ -124,7 +134,10 @@ void TComboBoxBasFr::ComboBox1Change(QObject *)
 
 void TComboBoxBasFr::ComboBox1DropDown(QObject *)
 {
+    const QPointer<TComboBoxBasFr> vivo(this);
     pedido.Antes();
+    if (vivo)
+        AlargarLista();
 }
 
 void TComboBoxBasFr::ComboBox1KeyDown(QObject *, int &tecla, Qt::KeyboardModifiers)
@@ -137,6 +150,39 @@ void TComboBoxBasFr::ComboBox1KeyPress(QObject *, QChar &caractere)
 {
     if (IniciaEdicao(caractere))
         pedido.Antes();
+}
+
+void TComboBoxBasFr::PrepararLista()
+{
+    ComboBox1->view()->setTextElideMode(Qt::ElideRight);
+    // One row is measured, not every one.
+    if (auto *lista = qobject_cast<QListView *>(ComboBox1->view()))
+        lista->setUniformItemSizes(true);
+}
+
+/** Opens the list as wide as its longest text, inside the screen. */
+void TComboBoxBasFr::AlargarLista()
+{
+    QAbstractItemView *lista = ComboBox1->view();
+    QString maior;
+    for (int i = 0; i < ComboBox1->Count(); ++i) {
+        const QString texto = ComboBox1->Item(i);
+        if (texto.size() > maior.size())
+            maior = texto;
+    }
+    const int margens = 4 * (lista->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) +
+                        lista->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int cabe =
+        ComboBox1->screen()->availableGeometry().right() - ComboBox1->mapToGlobal(QPoint()).x();
+    lista->setMinimumWidth(
+        std::max(0, std::min(lista->fontMetrics().horizontalAdvance(maior) + margens, cabe)));
+}
+
+/** As Tab does it: the text is selected, so that the next key types over it. A click that brought
+ * the focus keeps its place in the text. */
+void TComboBoxBasFr::FocarLista()
+{
+    ComboBox1->setFocus(Qt::TabFocusReason);
 }
 
 int TComboBoxBasFr::ItemDoTexto() const

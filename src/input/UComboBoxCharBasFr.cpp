@@ -22,7 +22,7 @@ Variant TComboBoxCharBasFr::GetValor() const
 void TComboBoxCharBasFr::SetValor(const Variant &valor)
 {
     TComboBoxBasFr::SetValor(valor);
-    ComboBox1->SetItemIndex(ItemDoCaractere(valor));
+    SelecionarItem(ItemDoCaractere(valor));
 }
 
 QString TComboBoxCharBasFr::SQLString() const
