@@ -6,11 +6,15 @@
 #include "forms/UTabLinearD.h"
 #include "platform/core/Erros.h"
 
+#include <QApplication>
+
 namespace ficha
 {
 
 TFicha::TFicha()
 {
+    if (!qApp)
+        throw EErro(QStringLiteral("A biblioteca se inicia depois do QApplication."));
     if (TabLinearD)
         throw EErro(QStringLiteral("A biblioteca já está iniciada neste programa."));
     imagens = std::make_unique<TImgD>();

@@ -22,9 +22,12 @@
 
 #include <QDebug>
 #include <QLabel>
+#include <QMdiSubWindow>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QTimer>
+
+#include <utility>
 
 /* The screen itself: creation, enabling rules, list, pages, search, closing. The edit cycle is in
  * UTabLinearBasFEdicao.cpp. */
@@ -282,8 +285,9 @@ void TTabLinearBasF::FormShow(QObject *sender)
     if (!Tab)
         throw EErro(QStringLiteral("A operação PrepararTab não criou a tabela da tela."));
     fechou = false;
-    // A screen that is restored in the middle of an edit stays as it is.
-    if (Navegando()) {
+    const bool restaurada = std::exchange(minimizada, false);
+    // A screen that is restored, or shown again in the middle of an edit, stays as it is.
+    if (Navegando() && !restaurada) {
         MostrarPagina(PaginaLista);
         PreencherStringGrid();
         MostrarRegistro();
@@ -295,6 +299,13 @@ void TTabLinearBasF::FormShow(QObject *sender)
     AtualizarLigado = true;
     if (!FiltrarAction->OnExecute)
         FiltrarAction->SetVisible(false);
+}
+
+/** A minimised child window hides what is in it. */
+void TTabLinearBasF::FormHide(QObject *sender)
+{
+    TTabBasF::FormHide(sender);
+    minimizada = SubJanela() && SubJanela()->isMinimized();
 }
 
 void TTabLinearBasF::FormActivate(QObject *sender)

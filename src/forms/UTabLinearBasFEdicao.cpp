@@ -143,7 +143,8 @@ void TTabLinearBasF::IniciarInsersao()
 
 bool TTabLinearBasF::Inseriu()
 {
-    if (!PodeInserir()) {
+    // A record that is stored already would refuse its own code as repeated.
+    if (!insersaoGravada && !PodeInserir()) {
         // Also in an empty table, where a refill shows the absent record, what was typed stays.
         const QScopedValueRollback<bool> controles(Tab->AtualizarControles, false);
         PreencherStringGrid();

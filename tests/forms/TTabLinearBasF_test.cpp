@@ -322,6 +322,27 @@ TEST_F(TTabLinearBasFTest, PagesCannotBeChangedWhileEditing)
     EXPECT_EQ(Foco(), tela->StringGrid1);
 }
 
+TEST_F(TTabLinearBasFTest, MinimisingAndRestoringLeavesThePageAndTheEdit)
+{
+    TresGrupos();
+    TGruposF *tela = Abrir();
+    tela->PageControl1->MudarComoUsuario(1);
+    tela->SubJanela()->showMinimized();
+    Ocioso();
+    tela->SubJanela()->showNormal();
+    Ocioso();
+    EXPECT_EQ(tela->PageControl1->GetActivePageIndex(), 1);
+    tela->DescrFr->SetFocus();
+    Tecla(Qt::Key_End);
+    Digitar(QStringLiteral("s"));
+    tela->SubJanela()->showMinimized();
+    Ocioso();
+    tela->SubJanela()->showNormal();
+    Ocioso();
+    EXPECT_EQ(tela->Tab->Status, TStatus::Alterando);
+    EXPECT_EQ(tela->Descr()->text(), QStringLiteral("azuls"));
+}
+
 TEST_F(TTabLinearBasFTest, EnteringTheFieldsPageGoesToTheFirstMarkedInput)
 {
     TresGrupos();
@@ -948,7 +969,6 @@ TEST_F(TTabLinearBasFTest, AnInsertStoredBeforeItsReReadingFailedIsNotStoredTwic
     tela->DescrFr->NaoRepetir = false;
     banco.Executar(QStringLiteral("drop index grupos_descr"));
     tela->InsAction->Execute();
-    tela->CodFr->SetValor(0); // the generator's codes never collide
     Digitar(QStringLiteral("um"));
     const QString lista = tela->GetSQLText();
     tela->aoAposInserir = [&] { tela->SetSQLText(QStringLiteral("select * from nenhuma")); };
