@@ -35,9 +35,9 @@ void TComboBoxBasFr::Create(QWidget *owner)
     ComboBox1->OnDropDown = [this](QObject *sender) { ComboBox1DropDown(sender); };
     Ligar(ComboBox1, &TComboBox::UserChanged, this, [this] {
         const QPointer<TComboBoxBasFr> vivo(this);
-        pedido.Depois();
+        Protegido([this] { ComboBox1Change(ComboBox1); });
         if (vivo)
-            ComboBox1Change(ComboBox1);
+            pedido.Depois();
     });
 }
 

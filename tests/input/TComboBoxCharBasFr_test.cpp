@@ -105,6 +105,18 @@ TEST_F(TComboBoxCharBasFrTest, TheColumnsCharacterIsShownWithoutAnAlteration)
     EXPECT_EQ(tela.pedidos, 0);
 }
 
+TEST_F(TComboBoxCharBasFrTest, ARefusedPickGivesWayToTheStoredCharacter)
+{
+    AbrirTabela({QStringLiteral("1, '', 0, 0, '\"', ''")});
+    auto *fr = Com(30);
+    Prender(fr, "letra", QStringLiteral("Tipo"));
+    tela.recusa = true;
+    fr->SetFocus();
+    Teclar(fr->ComboBox1, Qt::Key_Down);
+    EXPECT_EQ(avisos, QStringList{QStringLiteral("ocupado")});
+    EXPECT_EQ(fr->ComboBox1->GetItemIndex(), 1);
+}
+
 TEST_F(TComboBoxCharBasFrTest, TheButtonOnlyServesTheScreen)
 {
     AbrirTabela();
