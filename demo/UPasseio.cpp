@@ -70,6 +70,7 @@ void TPasseio::Executar()
 {
     janela.resize(900, 640);
     janela.Show();
+    VigiarCaixas();
     Assentar();
     MostrarBanco("Antes");
     Grupos();
@@ -160,9 +161,10 @@ void TPasseio::Alteracao()
 
 void TPasseio::Busca()
 {
-    Tecla(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+    Tecla(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
     Tecla(Qt::Key_Right);
     Tecla(Qt::Key_End, Qt::ControlModifier);
+    Foto(QStringLiteral("busca-parte-do-fim"));
     Tecla(Qt::Key_L, Qt::ControlModifier);
     Digitar(QStringLiteral("Brinquedos"));
     Foto(QStringLiteral("busca"), QApplication::activeWindow());
@@ -281,6 +283,22 @@ void TPasseio::ResponderCaixa(const QString &foto, Qt::Key tecla)
     });
 }
 
+void TPasseio::VigiarCaixas()
+{
+    auto *vigia = new QTimer(&janela);
+    QObject::connect(vigia, &QTimer::timeout, &janela,
+                     [this, antes = QPointer<QWidget>()]() mutable {
+                         QWidget *caixa = QApplication::activeModalWidget();
+                         if (caixa && caixa == antes && caixasPendentes == 0) {
+                             caixaInesperada = true;
+                             caixa->grab().save(Caminho(QStringLiteral("mensagem-inesperada")));
+                             QTest::keyClick(caixa, Qt::Key_Escape);
+                         }
+                         antes = caixa;
+                     });
+    vigia->start(std::chrono::seconds(2));
+}
+
 void TPasseio::Assentar()
 {
     QTest::qWait(1);
@@ -290,6 +308,9 @@ void TPasseio::Assentar()
 void TPasseio::Exigir(bool feito, const char *passo)
 {
     Assentar();
+    if (caixaInesperada)
+        throw EErro(QStringLiteral("Passeio: houve uma mensagem inesperada em: ") +
+                    QString::fromUtf8(passo));
     if (caixasPendentes != 0)
         throw EErro(QStringLiteral("Passeio: faltou uma mensagem em: ") + QString::fromUtf8(passo));
     if (!feito)

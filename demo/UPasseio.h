@@ -45,6 +45,9 @@ private:
     void Digitar(const QString &texto);
     /** Photographs the modal box that the next key opens and presses a key in it. */
     void ResponderCaixa(const QString &foto, Qt::Key tecla);
+    /** Closes and remembers a box that no step waits for, so that the tour ends with an error
+     * instead of waiting for a person. */
+    void VigiarCaixas();
     /** Lets events and the idle-time updates run. */
     void Assentar();
     /** Raises when the step did not come to this, or a box that was to come did not. */
@@ -56,6 +59,7 @@ private:
     QDir pasta;
     int fotos = 0;
     int caixasPendentes = 0;
+    bool caixaInesperada = false;
 };
 
 } // namespace comercial

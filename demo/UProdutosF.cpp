@@ -69,8 +69,9 @@ void TProdutosF::PrepararTab()
     TCampo *unidade = Tab->PegarCampo(q->FieldByName("unidade"), 80, UnidadeFr);
     unidade->Tipo = 5;
     unidade->ListaChar = std::make_unique<TLinhas>();
-    for (int i = 0; i < UnidadeFr->RadioGroup1->Count(); ++i)
-        unidade->ListaChar->Add(UnidadeFr->RadioGroup1->GetItem(i), i + 33);
+    const QStringList unidades = UnidadeFr->RadioGroup1->GetItems();
+    for (int i = 0; i < unidades.size(); ++i)
+        unidade->ListaChar->Add(unidades[i], i + 33);
     Tab->PegarCampo(q->FieldByName("ativo"), 45, AtivoFr);
     Tab->PegarCampo(q->FieldByName("observacao"), 0, ObservacaoFr)->Visivel = false;
 }
