@@ -528,6 +528,31 @@ TEST_F(Layout, AlignAndQtLayoutExcludeEachOther)
               QStringLiteral("4: 'W' já tem um layout"));
 }
 
+TEST_F(Layout, ControlsCanBeAlignedByCode)
+{
+    QWidget janela;
+    janela.resize(100, 100);
+    auto *topo = new QLabel(&janela);
+    topo->resize(10, 30);
+    auto *resto = new QLabel(&janela);
+    Alinhar(topo, alTop);
+    Alinhar(resto, alClient);
+    janela.show();
+    EXPECT_EQ(topo->geometry(), QRect(0, 0, 100, 30));
+    EXPECT_EQ(resto->geometry(), QRect(0, 30, 100, 70));
+    Alinhar(topo, alNone);
+    QTest::qWait(1);
+    EXPECT_EQ(resto->geometry(), QRect(0, 0, 100, 100));
+    delete resto;
+    janela.resize(50, 50);
+
+    QWidget com;
+    new QVBoxLayout(&com);
+    auto *filho = new QLabel(&com);
+    EXPECT_THROW(Alinhar(filho, alTop), ELayoutError);
+    EXPECT_THROW(Alinhar(&com, alTop), ELayoutError);
+}
+
 TEST_F(Layout, WalkGoesDepthFirstInChildOrderAndSurvivesDestruction)
 {
     QWidget raiz;

@@ -452,6 +452,32 @@ TEST_F(TFormTeste, HiddenInItsSubWindowItCanBeShownAgain)
     EXPECT_EQ(Eventos(), QStringLiteral("show activate"));
 }
 
+TEST_F(TFormTeste, MinimisedInItsSubWindowItIsNotHidden)
+{
+    QMdiArea area;
+    auto *form = Criar<TTesteF>(nullptr);
+    QMdiSubWindow *sub = area.addSubWindow(form);
+    area.resize(500, 300);
+    area.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&area));
+    form->Show();
+    Girar();
+    Eventos();
+    sub->showMinimized();
+    Girar();
+    sub->showNormal();
+    Girar();
+    sub->showMinimized();
+    form->Show();
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_FALSE(sub->isMinimized());
+    EXPECT_EQ(Eventos(), QString());
+    sub->showMinimized();
+    form->Hide();
+    form->Show();
+    EXPECT_TRUE(Eventos().contains(QStringLiteral("show")));
+}
+
 TEST_F(TFormTeste, ClosedFromItsOwnActionWhileAModalFormRunsAbove)
 {
     QPointer<TTesteF> form = Criar<TTesteF>(nullptr);

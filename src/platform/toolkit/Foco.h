@@ -13,7 +13,15 @@ namespace ficha
  * A tracker follows the active control of each window. When the focus moves inside a window, exit
  * runs from the innermost control outwards up to the common ancestor, then enter runs inwards. A
  * handler that moves the focus elsewhere ends that walk: the new walk starts from where the first
- * one stood. Losing the window (a message box, another program) is neither exit nor enter.
+ * one stood, and a control that is just being left is not told so again. Losing the window (a
+ * message box, another program) is neither exit nor enter, and neither are pop-ups: the list of a
+ * combo box, a menu, a calendar.
+ *
+ * A child window of an MDI main window counts as a window of its own: going to another child
+ * window, or to a control of the main window itself, leaves the active control as it is.
+ *
+ * Controls that are destroyed are passed over in silence; what held them is left or entered as if
+ * the focus had been there.
  *
  * Handlers run Protegido, in the order in which they were added, and go with their widget.
  */

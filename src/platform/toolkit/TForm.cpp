@@ -128,7 +128,11 @@ void TForm::Show()
 {
     show();
     if (QMdiSubWindow *sub = SubJanela()) {
+        if (sub->isMinimized() || sub->isShaded())
+            sub->showNormal();
         sub->show();
+        if (!mostrado && isVisible())
+            Aparecer();
         if (sub->mdiArea())
             sub->mdiArea()->setActiveSubWindow(sub);
         return;
@@ -141,6 +145,8 @@ void TForm::Hide()
     if (QMdiSubWindow *sub = SubJanela())
         sub->hide();
     hide();
+    if (mostrado)
+        Sumir();
 }
 
 bool TForm::Close()
@@ -406,6 +412,27 @@ void TForm::showEvent(QShowEvent *evento)
     if (evento->spontaneous() || !criado)
         return;
     LigarSubJanela();
+    if (!mostrado && !SubJanelaMuda())
+        Aparecer();
+}
+
+void TForm::hideEvent(QHideEvent *evento)
+{
+    QWidget::hideEvent(evento);
+    if (!evento->spontaneous() && mostrado && !SubJanelaMuda())
+        Sumir();
+}
+
+/** A sub window hides and shows what is in it while it is minimised, maximised or restored; to the
+ * form that is neither hiding nor showing. */
+bool TForm::SubJanelaMuda() const
+{
+    const QMdiSubWindow *sub = SubJanela();
+    return sub && (sub->windowState() & ~Qt::WindowActive) != estadoDaSub;
+}
+
+void TForm::Aparecer()
+{
     mostrado = true;
     const QPointer<TForm> vivo = this;
     Protegido([this] { FormShow(this); });
@@ -413,11 +440,8 @@ void TForm::showEvent(QShowEvent *evento)
         TornarAtivo();
 }
 
-void TForm::hideEvent(QHideEvent *evento)
+void TForm::Sumir()
 {
-    QWidget::hideEvent(evento);
-    if (evento->spontaneous())
-        return;
     mostrado = ativarAoMostrar = false;
     const QPointer<TForm> vivo = this;
     if (Ativo() == this) {
@@ -507,6 +531,11 @@ void TForm::LigarSubJanela()
     if (sub == ligada)
         return;
     ligada = sub;
+    estadoDaSub = sub->windowState() & ~Qt::WindowActive;
+    connect(sub, &QMdiSubWindow::windowStateChanged, this,
+            [this](Qt::WindowStates, Qt::WindowStates agora) {
+                estadoDaSub = agora & ~Qt::WindowActive;
+            });
     connect(sub->mdiArea(), &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow *ativa) {
         if (ativa && ativa == SubJanela())
             TornarAtivo();

@@ -142,7 +142,7 @@ protected:
     virtual void PegarComponentes();
 
     virtual void FormCreate(QObject *sender);
-    /** Each time that the form goes from hidden to shown. */
+    /** Each time that the form goes from hidden to shown; minimising is not hiding. */
     virtual void FormShow(QObject *sender);
     virtual void FormHide(QObject *sender);
     /** The form became the active one of the program. Message boxes, pop-ups and other programs
@@ -173,6 +173,9 @@ private:
     bool ConsultarFechamento();
     bool Fechar();
     void VerificarModal();
+    bool SubJanelaMuda() const;
+    void Aparecer();
+    void Sumir();
     void LigarSubJanela();
     void TornarAtivo();
     void VirParaAFrente();
@@ -183,6 +186,7 @@ private:
     bool sobreTudo = false;
     bool criado = false, destruido = false, liberado = false, fechando = false;
     bool mostrado = false, ativarAoMostrar = false;
+    Qt::WindowStates estadoDaSub;
     int nivelAoLiberar = 0;
     int resultado = mrNone;
     QEventLoop *laco = nullptr;
