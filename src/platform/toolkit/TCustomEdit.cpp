@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace ficha
 {
@@ -381,14 +382,13 @@ void TCustomEdit::DigitarNoMotor(const QString &texto)
 QString TCustomEdit::InserirTexto(const QString &texto)
 {
     QString entrada = NormalizarEntrada(texto, true);
-    const QString recusa = RecusaDoTexto(entrada);
+    QString recusa = RecusaDoTexto(entrada);
     if (!recusa.isEmpty() || entrada.isEmpty())
         return recusa;
     if (TemMotor()) {
         const TEstado antes = Estado();
         TResposta resposta = Digitar(antes, entrada, TOrigem::Colagem);
-        const QString motivo = resposta.Recusa;
-        resposta.Recusa.clear();
+        QString motivo = std::exchange(resposta.Recusa, QString());
         Aplicar(antes, std::move(resposta));
         return motivo;
     }

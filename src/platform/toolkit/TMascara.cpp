@@ -68,10 +68,10 @@ std::optional<QString> TMascara::Encaixar(const QString &texto) const
     const QString nu = texto.trimmed();
     if (nu.isEmpty() || nu == molde)
         return molde;
-    const auto a = Casar(texto, guardaLiterais);
+    auto a = Casar(texto, guardaLiterais);
     if (a && a->size() == Tamanho())
         return a;
-    const auto b = Casar(texto, !guardaLiterais);
+    auto b = Casar(texto, !guardaLiterais);
     if (b && b->size() == Tamanho())
         return b;
     return a ? a : b;

@@ -112,9 +112,9 @@ QRadioButton *TRadioGroup::NovoBotao(const QString &texto)
 {
     auto *botao = new QRadioButton(texto, this);
     grupo->addButton(botao);
-    Ligar(botao, &QRadioButton::toggled, this, [this, botao](bool marcado) {
-        if (marcado)
-            Marcado(botao);
+    Ligar(botao, &QRadioButton::toggled, this, [this, botao] {
+        if (botao->isChecked())
+            Marcado();
     });
     if (isVisible())
         botao->show();
@@ -159,7 +159,7 @@ void TRadioGroup::Marcar(int i)
     Indicar();
 }
 
-void TRadioGroup::Marcado(QRadioButton *)
+void TRadioGroup::Marcado()
 {
     Indicar();
     if (calado)

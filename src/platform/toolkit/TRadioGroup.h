@@ -80,7 +80,7 @@ private:
     void Descartar(QRadioButton *botao);
     void Arrumar();
     void Marcar(int i);
-    void Marcado(QRadioButton *botao);
+    void Marcado();
     void Indicar();
 
     std::vector<TItem> itens;
