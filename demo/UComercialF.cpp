@@ -23,6 +23,15 @@ void TComercialF::FormCreate(QObject *sender)
         SetStatus(QStringLiteral("Banco de dados: ") + conexao->DatabaseName);
 }
 
+bool TComercialF::AbrirTela(const QString &nome)
+{
+    for (TAction *acao : ActionList1->Actions()) {
+        if (acao->GetCaption().remove(u'&').compare(nome, Qt::CaseInsensitive) == 0)
+            return acao->Execute();
+    }
+    return false;
+}
+
 void TComercialF::MontarMenus()
 {
     const auto acao = [this](QMenu *menu, const QString &caption, const QKeySequence &tecla,

@@ -13,6 +13,9 @@ class TComercialF : public ficha::TPrincipalMDIF
 public:
     using TPrincipalMDIF::TPrincipalMDIF;
 
+    /** Opens a screen by the name of its menu item, letter case ignored; false when none has it. */
+    bool AbrirTela(const QString &nome);
+
 protected:
     void FormCreate(QObject *sender) override;
 

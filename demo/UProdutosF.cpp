@@ -57,10 +57,10 @@ void TProdutosF::PrepararTab()
     Rotular();
     TSQLQuery *q = SQLQuery1;
     Tab = Criar<TTabelaLinear>(q, QStringLiteral("produtos"));
-    Tab->PegarCampoChave(q->FieldByName("produtos_cod"), 60, CodFr);
-    Tab->PegarCampo(q->FieldByName("descricao"), 220, DescrFr);
+    Tab->PegarCampoChave(q->FieldByName("produtos_cod"), 56, CodFr);
+    Tab->PegarCampo(q->FieldByName("descricao"), 200, DescrFr);
     TCampo *grupo = Tab->PegarCampoChaveEstrangeira(q->FieldByName("grupos_cod"),
-                                                    q->FieldByName("grupo"), 130, GrupoFr);
+                                                    q->FieldByName("grupo"), 120, GrupoFr);
     grupo->OnAsString = [](TCampo *campo, QString &texto) { texto = campo->TextoEstrangeiro; };
     TCampo *preco = Tab->PegarCampo(q->FieldByName("preco"), 80, PrecoFr);
     preco->Tipo = 4;
@@ -72,7 +72,7 @@ void TProdutosF::PrepararTab()
     const QStringList unidades = UnidadeFr->RadioGroup1->GetItems();
     for (int i = 0; i < unidades.size(); ++i)
         unidade->ListaChar->Add(unidades[i], i + 33);
-    Tab->PegarCampo(q->FieldByName("ativo"), 45, AtivoFr);
+    Tab->PegarCampo(q->FieldByName("ativo"), 44, AtivoFr);
     Tab->PegarCampo(q->FieldByName("observacao"), 0, ObservacaoFr)->Visivel = false;
 }
 

@@ -25,6 +25,8 @@ struct TOpcoes {
     QString PastaDoPasseio;
     /** The second program of the tour: photographs the refusal and ends. */
     QString FotoDaRecusa;
+    /** The screen to open at the start. */
+    QString Abrir;
 };
 
 TOpcoes LerOpcoes(const QApplication &app)
@@ -38,12 +40,15 @@ TOpcoes LerOpcoes(const QApplication &app)
         {QStringLiteral("tour"), QStringLiteral("Percorre o programa com teclas de verdade")},
         {QStringLiteral("pasta"), QStringLiteral("Onde o passeio deixa as fotografias"),
          QStringLiteral("pasta"), QStringLiteral("build/tour")},
+        {QStringLiteral("abrir"), QStringLiteral("Abre uma tela: grupos ou produtos"),
+         QStringLiteral("tela")},
         {QStringLiteral("foto-da-recusa"), QStringLiteral("Fotografa a mensagem de abertura"),
          QStringLiteral("arquivo")},
     });
     leitor.process(app);
     return {leitor.value(QStringLiteral("banco")), leitor.isSet(QStringLiteral("tour")),
-            leitor.value(QStringLiteral("pasta")), leitor.value(QStringLiteral("foto-da-recusa"))};
+            leitor.value(QStringLiteral("pasta")), leitor.value(QStringLiteral("foto-da-recusa")),
+            leitor.value(QStringLiteral("abrir"))};
 }
 
 int Percorrer(TSQLConnection &conexao, const TOpcoes &opcoes)
@@ -63,6 +68,8 @@ int Trabalhar(TSQLConnection &conexao, const TOpcoes &opcoes)
     AbrirBancoComercial(conexao, opcoes.Banco);
     const std::unique_ptr<TComercialF> janela(Criar<TComercialF>(nullptr));
     janela->Show();
+    if (!opcoes.Abrir.isEmpty() && !janela->AbrirTela(opcoes.Abrir))
+        throw EErro(QStringLiteral("Não há uma tela chamada '%1'.").arg(opcoes.Abrir));
     return QApplication::exec();
 }
 
@@ -86,11 +93,13 @@ int main(int argc, char **argv)
     try {
         return opcoes.Passeio ? Percorrer(conexao, opcoes) : Trabalhar(conexao, opcoes);
     } catch (const EErro &e) {
+        // The engine's own text, which follows the message, is for who looks into the log.
+        const QString mensagem = e.Mensagem().section(QStringLiteral("\r\n\r\n"), 0, 0);
         std::fputs((e.Mensagem() + u'\n').toUtf8().constData(), stderr);
         if (!opcoes.FotoDaRecusa.isEmpty())
             TPasseio::FotografarCaixa(opcoes.FotoDaRecusa);
         if (!opcoes.Passeio)
-            MensagemErro(e.Mensagem());
+            MensagemErro(mensagem);
         return 1;
     }
 }

@@ -253,7 +253,7 @@ TEST_F(ServidorTest, RowsAcrossTheNetworkAreWhole)
 
 // What the second process does.
 
-TEST(Filho, DISABLED_SegurarTrava)
+FICHA_FILHO(SegurarTrava)
 {
     TSQLConnection conexao;
     conexao.DatabaseName = TFilho::Argumento(0);

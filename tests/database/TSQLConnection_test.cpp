@@ -586,7 +586,7 @@ TEST_F(TMauComecoTest, FullDiskCommitsNothing)
 
 // What the second processes of the tests above do.
 
-TEST(Filho, DISABLED_AbrirEEsperar)
+FICHA_FILHO(AbrirEEsperar)
 {
     TSQLConnection conexao;
     conexao.DatabaseName = TFilho::Argumento(0);
@@ -594,7 +594,7 @@ TEST(Filho, DISABLED_AbrirEEsperar)
     TFilho::AvisarEEsperar();
 }
 
-TEST(Filho, DISABLED_EncherODisco)
+FICHA_FILHO(EncherODisco)
 {
     TSQLConnection conexao;
     conexao.DatabaseName = TFilho::Argumento(0);

@@ -1,16 +1,19 @@
 #include "forms/TelasDeTeste.h"
 #include "forms/ULocalizBasF.h"
 #include "forms/UTabLinearD.h"
+#include "platform/database/PrepararBanco.h"
 #include "platform/hostforms/TPrincipalMDIF.h"
 #include "platform/support/SisD.h"
 #include "platform/toolkit/Foco.h"
 #include "platform/toolkit/TImageList.h"
+#include "support/ServidorFirebird.h"
 
 #include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QTimer>
 
 #include <cstdio>
+#include <utility>
 
 namespace ficha::testes
 {
@@ -945,6 +948,36 @@ TEST_F(TTabLinearBasFTest, ALostConnectionKeepsTheEditAndTheNextConfirmStoresIt)
     Tecla(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
     EXPECT_EQ(DescrNoBanco(1), QStringLiteral("anil"));
+}
+
+TEST_F(TTabLinearBasFTest, AKilledServerLeavesTheEditAndTheNextConfirmReconnectsByItself)
+{
+    FICHA_PRECISA_DE_SERVIDOR();
+    TServidorFirebird servidor;
+    ASSERT_TRUE(servidor.Iniciar());
+    const auto conexao = servidor.Conexao(QStringLiteral("telas.fdb"));
+    conexao->CriarBanco({});
+    PrepararBanco(*conexao);
+    conexao->ExecutarScript(EsquemaDeTeste);
+    conexao->Executar(QStringLiteral("insert into grupos values (1, 'azul', null)"));
+    TSQLConnection *const antes = std::exchange(ConexD().SQLConnection, conexao.get());
+    TGruposF *tela = Abrir();
+    tela->AltAction->Execute();
+    Ocioso();
+    tela->Descr()->setText(QStringLiteral("anil"));
+    servidor.Matar();
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(erros.size(), 1);
+    erros.clear();
+    EXPECT_EQ(tela->Tab->Status, TStatus::Alterando);
+    EXPECT_EQ(tela->Descr()->text(), QStringLiteral("anil"));
+    ASSERT_TRUE(servidor.Iniciar());
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
+    EXPECT_EQ(ValorDoBanco(*conexao, QStringLiteral("select descr from grupos")),
+              Variant(QStringLiteral("anil")));
+    delete tela;
+    ConexD().SQLConnection = antes;
 }
 
 TEST_F(TTabLinearBasFTest, AHookThatFailsLeavesNothingStored)

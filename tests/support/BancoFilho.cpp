@@ -16,7 +16,7 @@ constexpr const char *Separador = "\n";
 constexpr const char *Aviso = "filho pronto";
 } // namespace
 
-TFilho::TFilho(const QString &teste, const QStringList &argumentos)
+TFilho::TFilho(const QString &nome, const QStringList &argumentos)
 {
     QProcessEnvironment ambiente = QProcessEnvironment::systemEnvironment();
     ambiente.insert(QStringLiteral("FICHA_FILHO"), argumentos.join(QLatin1String(Separador)));
@@ -25,9 +25,7 @@ TFilho::TFilho(const QString &teste, const QStringList &argumentos)
     processo.setProcessEnvironment(ambiente);
     processo.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     processo.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
-    processo.start(QCoreApplication::applicationFilePath(),
-                   {QStringLiteral("--gtest_also_run_disabled_tests"),
-                    QStringLiteral("--gtest_filter=Filho.DISABLED_") + teste});
+    processo.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--filho=") + nome});
 }
 
 TFilho::~TFilho()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Filhos.h"
+
 #include <QProcess>
 #include <QStringList>
 
@@ -7,13 +9,13 @@ namespace ficha
 {
 
 /**
- * A second process for a test: this same test program, running one disabled test of the suite Filho
- * that stands beside the tests which need it. Killed when the object goes.
+ * A second process for a test: this same test program, running what FICHA_FILHO(name) defines
+ * beside the tests which need it. Killed when the object goes.
  */
 class TFilho
 {
 public:
-    explicit TFilho(const QString &teste, const QStringList &argumentos);
+    explicit TFilho(const QString &nome, const QStringList &argumentos);
     ~TFilho();
     TFilho(const TFilho &) = delete;
     TFilho &operator=(const TFilho &) = delete;

@@ -67,7 +67,9 @@ void VerificarArquivoParaAbrir(const QString &nome)
     if (!TemCabecalhoDeBanco(arquivo))
         Recusar(TErroBanco::NaoEhBanco,
                 QStringLiteral("O arquivo não é um banco de dados Firebird: %1"), nome);
-    if (!info.isWritable())
+    // An administrator may write what nobody is allowed to; the engine will not.
+    constexpr auto Gravacao = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    if (!info.isWritable() || !(info.permissions() & Gravacao))
         Recusar(TErroBanco::SomenteLeitura,
                 QStringLiteral("O arquivo do banco de dados só permite leitura: %1"), nome);
 }

@@ -297,8 +297,10 @@ void TComboBox::wheelEvent(QWheelEvent *evento)
 
 void TComboBox::focusOutEvent(QFocusEvent *evento)
 {
-    // On leaving, the list moves to the item of the text; the user changed nothing by that.
-    anunciado = Estado();
+    // On leaving, the list moves to the item of the text; the user changed nothing by that. In the
+    // middle of a key the focus only goes to the list, and the key's change is still to be told.
+    if (escopos == 0)
+        anunciado = Estado();
     QComboBox::focusOutEvent(evento);
 }
 
