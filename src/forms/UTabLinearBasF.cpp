@@ -22,12 +22,9 @@
 
 #include <QDebug>
 #include <QLabel>
-#include <QMdiSubWindow>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QTimer>
-
-#include <utility>
 
 /* The screen itself: creation, enabling rules, list, pages, search, closing. The edit cycle is in
  * UTabLinearBasFEdicao.cpp. */
@@ -285,9 +282,8 @@ void TTabLinearBasF::FormShow(QObject *sender)
     if (!Tab)
         throw EErro(QStringLiteral("A operação PrepararTab não criou a tabela da tela."));
     fechou = false;
-    const bool restaurada = std::exchange(minimizada, false);
-    // A screen that is restored, or shown again in the middle of an edit, stays as it is.
-    if (Navegando() && !restaurada) {
+    // A screen that is shown again in the middle of an edit stays as it is.
+    if (Navegando()) {
         MostrarPagina(PaginaLista);
         PreencherStringGrid();
         MostrarRegistro();
@@ -299,13 +295,6 @@ void TTabLinearBasF::FormShow(QObject *sender)
     AtualizarLigado = true;
     if (!FiltrarAction->OnExecute)
         FiltrarAction->SetVisible(false);
-}
-
-/** A minimised child window hides what is in it. */
-void TTabLinearBasF::FormHide(QObject *sender)
-{
-    TTabBasF::FormHide(sender);
-    minimizada = SubJanela() && SubJanela()->isMinimized();
 }
 
 void TTabLinearBasF::FormActivate(QObject *sender)

@@ -181,7 +181,6 @@ protected:
     void PegarComponentes() override;
     void FormCreate(QObject *sender) override;
     void FormShow(QObject *sender) override;
-    void FormHide(QObject *sender) override;
     void FormActivate(QObject *sender) override;
     void FormDeactivate(QObject *sender) override;
     void FormCloseQuery(QObject *sender, bool &pode) override;
@@ -266,7 +265,6 @@ private:
     bool ativando = false;
     bool confirmando = false;
     bool fechou = false;
-    bool minimizada = false;
     /** The open insertion is stored already; only the re-reading failed. */
     bool insersaoGravada = false;
     /** Takes the focus when it comes back to the fields page, instead of the first input. */
