@@ -17,10 +17,7 @@ struct TColor {
     {
         return TColor(std::uint32_t(r) | std::uint32_t(g) << 8 | std::uint32_t(b) << 16);
     }
-    static TColor DeQColor(const QColor &cor)
-    {
-        return DeRGB(cor.red(), cor.green(), cor.blue());
-    }
+    static TColor DeQColor(const QColor &cor) { return DeRGB(cor.red(), cor.green(), cor.blue()); }
 
     constexpr int Vermelho() const { return int(valor & 0xFF); }
     constexpr int Verde() const { return int(valor >> 8 & 0xFF); }

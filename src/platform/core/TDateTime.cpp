@@ -15,10 +15,7 @@ const QDate &DiaZero()
 }
 } // namespace
 
-TDateTime::TDateTime(QDate data)
-    : valor(data.isValid() ? double(DiaZero().daysTo(data)) : 0)
-{
-}
+TDateTime::TDateTime(QDate data) : valor(data.isValid() ? double(DiaZero().daysTo(data)) : 0) {}
 
 TDateTime::TDateTime(const QDateTime &momento)
     : valor(momento.isValid() ? double(DiaZero().daysTo(momento.date())) +
