@@ -97,11 +97,9 @@ void TTabelaLinear::ExclCancel()
 bool TTabelaLinear::GarantiaRegistro()
 {
     const QString chaves = ChavesGarantia();
-    const bool obtida = GarantiaTentar(NomeTabela, chaves, WhereStr());
-    if (obtida) {
-        chaveTravada = chaves;
-        travado = true;
-    }
+    // One record at a time: a lock that an edit left behind would else never be given back.
+    LiberarTrava();
+    const bool obtida = Travar(chaves, WhereStr());
     const auto relerNoMesmo = [&] {
         DataSet->Close();
         DataSet->Open();
@@ -119,18 +117,37 @@ bool TTabelaLinear::GarantiaRegistro()
     return obtida;
 }
 
-/** The lock goes by the key it was taken with: the current row may be another one by now. */
+bool TTabelaLinear::GarantirTrava()
+{
+    if (DetemTrava())
+        return true;
+    return travado ? Travar(QString(travado->chaves), QString(travado->onde))
+                   : Travar(ChavesGarantia(), WhereStr());
+}
+
+bool TTabelaLinear::Travar(const QString &chaves, const QString &onde)
+{
+    if (!GarantiaTentar(NomeTabela, chaves, onde))
+        return false;
+    travado = {chaves, onde, GarantiaNumero(NomeTabela, chaves)};
+    return true;
+}
+
+bool TTabelaLinear::DetemTrava() const
+{
+    return travado && GarantiaNumero(NomeTabela, travado->chaves) == travado->numero;
+}
+
 void TTabelaLinear::LiberarTrava()
 {
-    if (!travado)
-        return;
-    travado = false;
-    GarantiaLiberar(NomeTabela, chaveTravada);
+    if (DetemTrava())
+        GarantiaLiberar(NomeTabela, travado->chaves);
+    travado.reset();
 }
 
 void TTabelaLinear::LiberarRegistro(const QString &chaves)
 {
-    if (travado && chaves == chaveTravada)
+    if (travado && chaves == travado->chaves)
         LiberarTrava();
 }
 

@@ -2,6 +2,8 @@
 
 #include "records/UTabela.h"
 
+#include <optional>
+
 namespace ficha
 {
 
@@ -41,6 +43,14 @@ public:
      * same record again (the first when it is gone). The inputs are not touched.
      */
     bool GarantiaRegistro() override;
+    /**
+     * Makes sure that this table still holds the lock of the record being altered or deleted, to be
+     * asked before the change is written: a lost connection takes its locks along. A lock that is
+     * gone is taken again without re-reading the dataset. False when someone else has the record by
+     * now or it was deleted, which the user has then been told; EDatabaseError while the connection
+     * cannot be made again. Either way a later call tries again.
+     */
+    bool GarantirTrava();
 
     /** Binding of columns, key fields first; the fields are owned by the table, columns and
      * controls are not. Each answers the new field. */
@@ -101,10 +111,17 @@ private:
     QString TextoDaChave(bool relerCampos) const;
     void PreencherTitulos(TStringGrid *grid) const;
     void PreencherLinhas(TStringGrid *grid);
+    bool Travar(const QString &chaves, const QString &onde);
+    bool DetemTrava() const;
     void LiberarTrava();
 
-    QString chaveTravada;
-    bool travado = false;
+    /** What the lock was taken on: the current row may be another one by now. */
+    struct TTravado {
+        QString chaves;
+        QString onde;
+        qint64 numero; /**< tells this table's lock from one that another screen took since */
+    };
+    std::optional<TTravado> travado;
 };
 
 } // namespace ficha

@@ -23,7 +23,14 @@ namespace
 struct TTrava {
     motor::TRef<Firebird::ITransaction> transacao;
     TDonoDaTrava dono;
+    qint64 numero = 0;
 };
+
+qint64 ProximoNumero()
+{
+    static qint64 ultimo = 0;
+    return ++ultimo;
+}
 
 /** The name and key under which a lock stands in the table. */
 struct TNomeDaTrava {
@@ -138,7 +145,7 @@ bool TTravas::Tentar(const QString &tabela, const QString &chaves, TDonoDaTrava 
             *dono = d->Procurar(nome);
         return false;
     }
-    d->minhas.emplace(nome, TTrava{transacao.Entregar(), eu});
+    d->minhas.emplace(nome, TTrava{transacao.Entregar(), eu, ProximoNumero()});
     return true;
 }
 
@@ -162,7 +169,15 @@ void TTravas::LiberarTodas() noexcept
 
 bool TTravas::Detem(const QString &tabela, const QString &chaves) const
 {
-    return d->conexao.Connected() && d->minhas.contains(Nomear(tabela, chaves));
+    return Numero(tabela, chaves) != 0;
+}
+
+qint64 TTravas::Numero(const QString &tabela, const QString &chaves) const
+{
+    if (!d->conexao.Connected())
+        return 0;
+    const auto minha = d->minhas.find(Nomear(tabela, chaves));
+    return minha == d->minhas.end() ? 0 : minha->second.numero;
 }
 
 int TTravas::Count() const

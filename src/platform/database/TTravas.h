@@ -51,6 +51,9 @@ public:
     void LiberarTodas() noexcept;
     /** Whether this connection holds the lock; false again after the connection was lost. */
     bool Detem(const QString &tabela, const QString &chaves) const;
+    /** The number of the lock that this connection holds, 0 when it holds none. Every lock taken in
+     * this process has another one, so that a holder tells its own from one taken since. */
+    qint64 Numero(const QString &tabela, const QString &chaves) const;
     int Count() const;
     /** Who holds the lock now, on whatever workstation. */
     TDonoDaTrava Dono(const QString &tabela, const QString &chaves);

@@ -138,4 +138,10 @@ void GarantiaLiberar(const QString &tabela, const QString &chaves)
         conexao->Travas().Liberar(tabela, chaves);
 }
 
+qint64 GarantiaNumero(const QString &tabela, const QString &chaves)
+{
+    const TSQLConnection *conexao = ConexD().SQLConnection;
+    return conexao ? conexao->Travas().Numero(tabela, chaves) : 0;
+}
+
 } // namespace ficha

@@ -37,5 +37,8 @@ int NLinsDataSet(const TDataSet *dataset);
 bool GarantiaTentar(const QString &tabela, const QString &chaves, const QString &onde);
 /** Gives a lock back; one that is not held is left alone. */
 void GarantiaLiberar(const QString &tabela, const QString &chaves);
+/** The number of a lock that this program holds, 0 when it holds none; every lock taken has
+ * another one. After a lost connection all locks are gone. Never asks the database. */
+qint64 GarantiaNumero(const QString &tabela, const QString &chaves);
 
 } // namespace ficha
