@@ -12,6 +12,7 @@
 #include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -96,6 +97,37 @@ TEST_F(Foco, MovingInsideTheOuterFrameLeavesOnlyTheInner)
     QTest::keyClick(e2, Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(ComFoco(), e1);
     EXPECT_EQ(Ordem(), QStringLiteral("+dentro"));
+}
+
+TEST_F(Foco, AClickThatAnExitUndidPressesNothing)
+{
+    auto *botao = new QPushButton(QStringLiteral("Fora"), &janela);
+    botao->setFocusPolicy(Qt::StrongFocus);
+    botao->setGeometry(10, janela.height() - 40, 80, 25);
+    botao->show();
+    int cliques = 0, caixas = 0;
+    QObject::connect(botao, &QPushButton::clicked, &janela, [&] { ++cliques; });
+    bool recusa = true;
+    e1->setFocus();
+    dentro->OnExit = [&](QObject *) {
+        if (!recusa)
+            return;
+        FecharCaixa(caixas);
+        QMessageBox::warning(&janela, QStringLiteral("Aviso"), QStringLiteral("Valor inválido"));
+        e1->setFocus();
+    };
+    for (int vez = 0; vez < 2; ++vez) {
+        QTest::mousePress(botao, Qt::LeftButton);
+        EXPECT_FALSE(botao->isDown()) << "not even drawn as pressed";
+        QTest::mouseRelease(botao, Qt::LeftButton);
+        EXPECT_EQ(caixas, vez + 1);
+        VoltarParaAJanela();
+        EXPECT_EQ(ComFoco(), e1);
+    }
+    EXPECT_EQ(cliques, 0);
+    recusa = false;
+    QTest::mouseClick(botao, Qt::LeftButton);
+    EXPECT_EQ(cliques, 1) << "a click that may leave is a click";
 }
 
 TEST_F(Foco, TabAndShiftTabAcrossFrames)

@@ -7,6 +7,8 @@
 #include <QMdiSubWindow>
 #include <QPointer>
 
+#include <utility>
+
 namespace ficha
 {
 
@@ -173,15 +175,60 @@ void Andar(QWidget *controle)
         foco->alvo = nullptr;
 }
 
+/**
+ * Swallows the press of a click that an exit has undone. Qt gives the focus before it delivers the
+ * press; when an exit took the focus back meanwhile, the press would still reach the control that
+ * lost it, and a button would stay drawn as pressed.
+ */
+class TCliqueDesfeito : public QObject
+{
+public:
+    TCliqueDesfeito() { qApp->installEventFilter(this); }
+
+    /** The focus was meant for this control and went elsewhere. */
+    void Preparar(QWidget *controle) { perdeu = controle; }
+
+    bool eventFilter(QObject *objeto, QEvent *evento) override
+    {
+        switch (evento->type()) {
+        case QEvent::MouseButtonPress: {
+            const auto *quem = qobject_cast<QWidget *>(objeto);
+            const QPointer<QWidget> antes = std::exchange(perdeu, nullptr);
+            return quem && antes && (Contem(quem, antes) || Contem(antes, quem));
+        }
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseMove:
+        case QEvent::Timer:
+            perdeu = nullptr;
+            break;
+        default:
+            break;
+        }
+        return false;
+    }
+
+private:
+    QPointer<QWidget> perdeu;
+};
+
 void LigarAoPrograma()
 {
     static QPointer<QObject> ligado;
     if (ligado == qApp)
         return;
     ligado = qApp;
-    QObject::connect(qApp, &QApplication::focusChanged, qApp, [] {
-        if (QWidget *agora = QApplication::focusWidget())
-            Andar(agora);
+    auto *cliques = new TCliqueDesfeito;
+    cliques->setParent(qApp);
+    QObject::connect(qApp, &QApplication::focusChanged, cliques, [cliques] {
+        const QPointer<QWidget> agora = QApplication::focusWidget();
+        if (!agora)
+            return;
+        Andar(agora);
+        const QWidget *ficou = agora ? JanelaDe(agora)->focusWidget() : nullptr;
+        if (agora && ficou != agora)
+            cliques->Preparar(agora);
     });
 }
 
