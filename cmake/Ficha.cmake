@@ -8,11 +8,13 @@ target_compile_options(ficha_opcoes INTERFACE
 target_compile_definitions(ficha_opcoes INTERFACE
     QT_NO_KEYWORDS QT_NO_FOREACH)
 target_include_directories(ficha_opcoes INTERFACE "${CMAKE_SOURCE_DIR}/src")
-target_link_libraries(ficha_opcoes INTERFACE Qt6::Core Qt6::Gui Qt6::Widgets Qt6::Svg Qt6::UiTools)
+target_link_libraries(ficha_opcoes INTERFACE Qt6::Core Qt6::Gui Qt6::Widgets Qt6::Svg)
 if(FICHA_SANITIZERS)
     target_compile_options(ficha_opcoes INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-sanitize=vptr
-        -fno-omit-frame-pointer)
+        -fno-omit-frame-pointer
+        # Instrumented code makes this compiler see uninitialised members of std::variant.
+        -Wno-maybe-uninitialized)
     target_link_options(ficha_opcoes INTERFACE -fsanitize=address,undefined -fno-sanitize=vptr)
 endif()
 
@@ -77,6 +79,6 @@ function(ficha_biblioteca)
     add_library(ficha SHARED "${CMAKE_BINARY_DIR}/ficha_biblioteca.cpp")
     ficha_ligar(ficha ${andares})
     target_include_directories(ficha PUBLIC "${CMAKE_SOURCE_DIR}/src")
-    target_link_libraries(ficha PUBLIC Qt6::Core Qt6::Gui Qt6::Widgets Qt6::Svg Qt6::UiTools)
+    target_link_libraries(ficha PUBLIC Qt6::Core Qt6::Gui Qt6::Widgets Qt6::Svg)
     add_library(ficha::ficha ALIAS ficha)
 endfunction()

@@ -1,6 +1,7 @@
 #include "demo/UComercialF.h"
 
 #include "demo/UGruposF.h"
+#include "demo/UMostruarioF.h"
 #include "demo/UProdutosF.h"
 #include "platform/database/ConexD.h"
 #include "platform/support/Mensagens.h"
@@ -45,6 +46,7 @@ void TComercialF::MontarMenus()
     QMenu *cadastros = AcrescentarMenu(QStringLiteral("&Cadastros"));
     acao(cadastros, QStringLiteral("&Grupos"), Qt::Key_F2, [this] { Abrir<TGruposF>(); });
     acao(cadastros, QStringLiteral("&Produtos"), Qt::Key_F3, [this] { Abrir<TProdutosF>(); });
+    acao(cadastros, QStringLiteral("&Mostruário"), Qt::Key_F9, [this] { Abrir<TMostruarioF>(); });
     cadastros->addSeparator();
     acao(cadastros, QStringLiteral("&Sair"), Qt::ALT | Qt::Key_F4, [this] { Close(); });
 }

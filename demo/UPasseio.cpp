@@ -9,7 +9,10 @@
 #include "platform/toolkit/TForm.h"
 
 #include <QApplication>
+#include <QMdiSubWindow>
 #include <QProcess>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
@@ -81,6 +84,7 @@ void TPasseio::Executar()
     Produto();
     GrupoPeloCombo();
     PerguntaAoFechar();
+    Mostruario();
     SegundoPrograma();
     MostrarBanco("Depois");
     Dizer(QStringLiteral("%1 fotografias em %2").arg(fotos).arg(pasta.path()));
@@ -227,6 +231,24 @@ void TPasseio::PerguntaAoFechar()
     Tecla(Qt::Key_Escape);
     Tecla(Qt::Key_F4, Qt::ControlModifier);
     Exigir(janela.Filhos().isEmpty(), "fechar a janela de produtos");
+}
+
+/** Every frame of the gallery, a screenful at a time. */
+void TPasseio::Mostruario()
+{
+    Tecla(Qt::Key_F9);
+    TForm *mostruario = janela.FilhoAtivo();
+    mostruario->SubJanela()->showMaximized();
+    auto *rolagem = mostruario->findChild<QScrollArea *>();
+    QScrollBar *barra = rolagem->verticalScrollBar();
+    Assentar();
+    for (int y = 0;; y += barra->pageStep()) {
+        barra->setValue(y);
+        Foto(QStringLiteral("mostruario"));
+        if (y >= barra->maximum())
+            break;
+    }
+    Tecla(Qt::Key_F4, Qt::ControlModifier);
 }
 
 void TPasseio::SegundoPrograma()

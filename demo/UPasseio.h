@@ -36,6 +36,7 @@ private:
     void Produto();
     void GrupoPeloCombo();
     void PerguntaAoFechar();
+    void Mostruario();
     void SegundoPrograma();
 
     QString Caminho(const QString &nome);

@@ -5,8 +5,8 @@ set -euo pipefail
 
 pacotes=(
     g++ cmake ninja-build ccache
-    qt6-base-dev qt6-tools-dev libqt6svg6-dev libqt6svg6 qt6-qpa-plugins libgl1-mesa-dev
-    firebird-dev libfbclient2 firebird3.0-server-core firebird3.0-utils
+    qt6-base-dev qt6-svg-dev libgl-dev
+    firebird-dev libfbclient2 firebird3.0-server-core
     libgtest-dev libgmock-dev
     fonts-liberation
 )

@@ -1,6 +1,8 @@
+#include "base/UBasFr.h"
 #include "demo/UBancoComercial.h"
 #include "demo/UComercialF.h"
 #include "demo/UGruposF.h"
+#include "demo/UMostruarioF.h"
 #include "demo/UPasseio.h"
 #include "demo/UProdutosF.h"
 #include "forms/UFicha.h"
@@ -11,9 +13,11 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <fstream>
 
 using namespace comercial;
@@ -163,6 +167,30 @@ TEST_F(ComercialTest, ASecondProgramIsRefusedWhileTheDatabaseIsInUse)
     EXPECT_TRUE(segundo.Erros().contains(QStringLiteral("já está em uso por outro programa")));
     EXPECT_TRUE(QFile::exists(foto)) << "one message box, closed with Esc";
     EXPECT_EQ(ValorDoBanco(conexao, QStringLiteral("select count(*) from grupos")), Variant(8));
+}
+
+TEST_F(ComercialTest, TheGalleryShowsEveryFrameByItsName)
+{
+    const TFicha biblioteca;
+    TSQLConnection conexao;
+    AbrirBancoComercial(conexao, Arquivo("comercial.fdb"));
+    const std::unique_ptr<TMostruarioF> mostruario(Criar<TMostruarioF>(nullptr));
+    mostruario->Show();
+    QStringList nomes;
+    for (const QLabel *rotulo : mostruario->findChildren<QLabel *>())
+        nomes << rotulo->text();
+    int frames = 0;
+    for (const QString &classe : ClassesRegistradas()) {
+        if (!ClasseRegistrada(classe)->inherits(&TBasFr::staticMetaObject))
+            continue;
+        ++frames;
+        EXPECT_TRUE(nomes.contains(classe)) << classe.toStdString();
+        EXPECT_TRUE(std::ranges::any_of(mostruario->findChildren<TBasFr *>(), [&](TBasFr *frame) {
+            return QString::fromLatin1(frame->metaObject()->className())
+                .endsWith(QStringLiteral("::") + classe);
+        })) << classe.toStdString();
+    }
+    EXPECT_GE(frames, 20);
 }
 
 TEST_F(ComercialTest, TheProgramIdlesWithoutWakingUp)

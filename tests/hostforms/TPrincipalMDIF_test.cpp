@@ -2,9 +2,12 @@
 
 #include "platform/hostforms/TChildMDIBasF.h"
 #include "platform/toolkit/TAction.h"
+#include "platform/toolkit/TPageControl.h"
+#include "platform/toolkit/TPanel.h"
 #include "support/Girar.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -63,6 +66,28 @@ TEST_F(TPrincipalTeste, IsTheMainWindowWhileItLives)
     EXPECT_EQ(TPrincipalMDIF::Atual(), p.get());
     p.reset();
     EXPECT_EQ(TPrincipalMDIF::Atual(), nullptr);
+}
+
+TEST_F(TPrincipalTeste, CtrlTabChangesThePageOfAChildWindowAndCtrlF6TheWindow)
+{
+    auto *dois = p->Abrir<TDoisF>();
+    auto *um = p->Abrir<TUmF>();
+    auto *paginas = new TPageControl(um->Panel1);
+    for (int i = 0; i < 2; ++i)
+        (new QLineEdit(new TTabSheet(paginas)))->show();
+    paginas->resize(300, 200);
+    paginas->show();
+    QWidget *edit = paginas->GetPage(0)->findChild<QLineEdit *>();
+    edit->setFocus();
+    QTest::keyClick(edit, Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(paginas->GetActivePageIndex(), 1);
+    edit = paginas->GetPage(1)->findChild<QLineEdit *>();
+    edit->setFocus();
+    QTest::keyClick(edit, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(paginas->GetActivePageIndex(), 0);
+    EXPECT_EQ(p->FilhoAtivo(), um);
+    QTest::keyClick(paginas->GetPage(0)->findChild<QLineEdit *>(), Qt::Key_F6, Qt::ControlModifier);
+    EXPECT_EQ(p->FilhoAtivo(), dois);
 }
 
 TEST_F(TPrincipalTeste, OpensOneWindowPerClass)

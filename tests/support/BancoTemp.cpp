@@ -40,7 +40,8 @@ QString PastaDeBancos()
     const QFileInfo memoria(QStringLiteral("/dev/shm"));
     const bool cabe = memoria.isDir() && memoria.isWritable() &&
                       QStorageInfo(memoria.filePath()).bytesAvailable() > Folga;
-    return (cabe ? memoria.filePath() : QDir::tempPath()) + QStringLiteral("/ficha-teste-XXXXXX");
+    return (cabe ? memoria.filePath() : QDir::tempPath()) + QStringLiteral("/ficha-teste-") +
+           QString(6, u'X');
 }
 
 TBancoTemp::TBancoTemp(const QString &script)

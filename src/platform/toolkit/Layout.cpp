@@ -93,6 +93,12 @@ const QMetaObject *ClasseRegistrada(const QString &nome)
     return classe ? classe->meta : nullptr;
 }
 
+QWidget *CriarPeloNome(const QString &nome, QWidget *pai)
+{
+    const TClasseDeLayout *classe = ClasseDeLayout(nome);
+    return classe && classe->criar ? classe->criar(pai) : nullptr;
+}
+
 void RegistrarPastaDeLayouts(const QString &pasta)
 {
     Pastas().removeAll(pasta);

@@ -63,6 +63,9 @@ QStringList ClassesRegistradas();
     }
 /** The meta-object of a registered class or of one of Qt's widgets, by bare name; else null. */
 const QMetaObject *ClasseRegistrada(const QString &nome);
+/** Makes an instance of a registered class as a layout would, owned by the parent; null when the
+ * name is not registered or the class is abstract. */
+QWidget *CriarPeloNome(const QString &nome, QWidget *pai);
 
 /** Adds a resource folder (":/demo/layouts") in which layouts are looked for, before the
  * library's own ":/ficha/layouts". */

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/hostforms/TChildMDIBasF.h"
+
+namespace comercial
+{
+
+/**
+ * A gallery of every frame of the library: all registered frame classes, each with its name, alive
+ * and ready to be typed into, and the small dialogs behind buttons. A frame that is added to the
+ * library appears here by itself.
+ */
+class TMostruarioF : public ficha::TChildMDIBasF
+{
+    Q_OBJECT
+
+public:
+    using TChildMDIBasF::TChildMDIBasF;
+
+protected:
+    void FormCreate(QObject *sender) override;
+
+private:
+    void MostrarFrames(QWidget *lista);
+    void MostrarDialogos(QWidget *lista);
+};
+
+} // namespace comercial
