@@ -25,6 +25,23 @@ TEST(TDateTime, WritesTheTimeOnlyWhereThereIsOne)
               QStringLiteral("05/03/2026 07:08:09"));
 }
 
+TEST(TDateTime, TextsAreThoseOfTheCalendar)
+{
+    const QString dia = QStringLiteral("dd/MM/yyyy");
+    for (QDate d(1899, 11, 28); d < QDate(2101, 1, 1); d = d.addDays(13)) {
+        const QTime hora(d.day() % 24, d.dayOfYear() % 60, d.month() * 4);
+        EXPECT_EQ(TDateTime(d).TextoData(), d.toString(dia));
+        EXPECT_EQ(TDateTime(QDateTime(d, hora)).Texto(),
+                  QDateTime(d, hora).toString(dia + QStringLiteral(" HH:mm:ss")));
+    }
+    for (const QDate d : {QDate(1, 1, 1), QDate(999, 9, 9), QDate(9999, 12, 31), QDate(10000, 1, 1),
+                          QDate(-5, 6, 7)}) {
+        EXPECT_EQ(TDateTime(d).TextoData(), d.toString(dia));
+        EXPECT_EQ(TDateTime(QDateTime(d, QTime(1, 2, 3))).Texto(),
+                  d.toString(dia) + QStringLiteral(" 01:02:03"));
+    }
+}
+
 TEST(TDateTime, AnImpossibleDateIsDayZero)
 {
     EXPECT_EQ(TDateTime::DeData(31, 2, 2026).Dias(), 0);

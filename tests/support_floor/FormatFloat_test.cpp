@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 using namespace ficha;
@@ -70,6 +71,26 @@ TEST(FormatFloat, IsExactToTheCentavoForFifteenDigits)
         ASSERT_EQ(FormatFloat(padrao, double(centavos) / 100),
                   texto.left(texto.size() - 2) + u',' + texto.right(2));
     }
+}
+
+TEST(FormatFloat, EveryCentavoIsShownAsItIsAndItsNeighboursToo)
+{
+    const QString padrao = QStringLiteral("0.00");
+    for (qint64 centavos = 1; centavos < 9'000'000'000'000'00; centavos = centavos * 3 / 2 + 7) {
+        const QString esperado = QStringLiteral("%1,%2")
+                                     .arg(centavos / 100)
+                                     .arg(centavos % 100, 2, 10, QLatin1Char('0'));
+        const double valor = double(centavos) / 100;
+        EXPECT_EQ(FormatFloat(padrao, valor), esperado);
+        EXPECT_EQ(FormatFloat(padrao, -valor), u'-' + esperado);
+        if (centavos < 100'000'000'000) {
+            EXPECT_EQ(FormatFloat(padrao, std::nextafter(valor, 0)), esperado);
+            EXPECT_EQ(FormatFloat(padrao, std::nextafter(valor, 1e15)), esperado);
+        }
+    }
+    EXPECT_EQ(FormatFloat(QStringLiteral("0.0"), 0.05), QStringLiteral("0,1"));
+    EXPECT_EQ(FormatFloat(QStringLiteral("0.000"), 0.05), QStringLiteral("0,050"));
+    EXPECT_EQ(FormatFloat(QStringLiteral("0.0000"), 0.0049), QStringLiteral("0,0049"));
 }
 
 TEST(FormatFloat, RoundsHalvesAwayFromZeroOnTheDecimalDigits)

@@ -66,6 +66,25 @@ void TAlgarismos::Arredondar(int decimais)
     Aparar();
 }
 
+/** The digits of a whole number of the given decimal places. */
+void DeInteiro(TAlgarismos &a, std::int64_t valor, int decimais)
+{
+    const auto fim = std::to_chars(a.digitos, a.digitos + TAlgarismos::Maximo, valor);
+    a.n = int(fim.ptr - a.digitos);
+    a.expoente = a.n - 1 - decimais;
+}
+
+/** The amount in centavos when it is a whole number of them, else -1. Up to 15 digits the decimal
+ * that is nearest to a double is one only, so that a centavo's double has the centavo's digits. */
+std::int64_t EmCentavos(double valor)
+{
+    constexpr double MaiorValor = 1e13;
+    if (valor >= MaiorValor)
+        return -1;
+    const auto centavos = std::int64_t(valor * 100 + 0.5);
+    return double(centavos) / 100 == valor ? centavos : -1;
+}
+
 /** The digits of |valor|: all of a whole number that a double holds exactly, else 15. */
 TAlgarismos Algarismos(double valor)
 {
@@ -74,10 +93,9 @@ TAlgarismos Algarismos(double valor)
     TAlgarismos a;
     valor = std::fabs(valor);
     if (valor <= MaiorInteiroExato && valor == std::trunc(valor)) {
-        const auto fim =
-            std::to_chars(a.digitos, a.digitos + TAlgarismos::Maximo, std::int64_t(valor));
-        a.n = int(fim.ptr - a.digitos);
-        a.expoente = a.n - 1;
+        DeInteiro(a, std::int64_t(valor), 0);
+    } else if (const std::int64_t centavos = EmCentavos(valor); centavos > 0) {
+        DeInteiro(a, centavos, 2);
     } else {
         char texto[40];
         const auto fim = std::to_chars(texto, texto + sizeof texto, valor,
