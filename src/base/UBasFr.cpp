@@ -52,8 +52,10 @@ void TBasFr::AguardeEsconder()
 
 void TBasFr::ControlesHabilitados(bool habilitar)
 {
-    for (QWidget *filho : findChildren<QWidget *>(Qt::FindDirectChildrenOnly))
-        filho->setEnabled(habilitar);
+    for (QWidget *filho : findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
+        if (!filho->isWindow())
+            filho->setEnabled(habilitar);
+    }
 }
 
 void TBasFr::SimuleTecla(int tecla, QWidget *controle)

@@ -38,7 +38,8 @@ public:
      * hides it whatever number of calls came before. */
     void AguardeExibir();
     void AguardeEsconder();
-    /** Enables or disables the direct children; grandchildren follow their own parent only. */
+    /** Enables or disables the direct children; grandchildren follow their own parent only, and a
+     * window that the frame owns is no child control. */
     void ControlesHabilitados(bool habilitar);
     /** Delivers one press of a virtual key synchronously: to the control, or to the focused one
      * when it is null, or to the frame itself when nothing has the focus. */

@@ -38,8 +38,11 @@ void TControlBasFr::SetValor(const Variant &) {}
 
 bool TControlBasFr::CanExit()
 {
+    // The value's warning is a message box: the screen may be gone behind it.
+    const QPointer<TControlBasFr> vivo(this);
     const bool aceito = ValorAceitavel();
-    Atualizar();
+    if (vivo)
+        Atualizar();
     return aceito;
 }
 
@@ -129,7 +132,8 @@ void TControlBasFr::FrameExit(QObject *)
         DesligarFrases();
     else
         SetFocus();
-    Atualizar();
+    if (vivo)
+        Atualizar();
 }
 
 void TControlBasFr::FrameEnter(QObject *)

@@ -82,7 +82,8 @@ void TControlInfo::SetValor(const Variant &valor)
         // A CNPJ combo tells its value each time; hosts rely on seeing it.
         if (controle->objectName().contains(QStringLiteral("CNPJ")))
             MensagemSimples(valor.AsString());
-        SetTexto(valor.AsString());
+        if (controle)
+            SetTexto(valor.AsString());
         return;
     }
     const QString texto = valor.AsString().trimmed();

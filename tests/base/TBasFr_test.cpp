@@ -71,7 +71,30 @@ TEST_F(TBasFrTest, LayoutOfTheWaitPanels)
     EXPECT_EQ(fr->AguardeImageLaranja->geometry(), QRect(16, -2, 30, 39));
     EXPECT_FALSE(fr->AguardeImage->pixmap().isNull());
     EXPECT_FALSE(fr->AguardeImageLaranja->pixmap().isNull());
-    EXPECT_TRUE(fr->AguardePanel->font().bold());
+    for (const TPanel *painel : {fr->AguardePanel, fr->PanelLaranja}) {
+        EXPECT_TRUE(painel->font().bold());
+        EXPECT_EQ(QFontInfo(painel->font()).pixelSize(), 19);
+        EXPECT_EQ(painel->GetCaption(), QStringLiteral("Aguarde..."));
+        EXPECT_EQ(painel->frameShape(), QFrame::Box);
+    }
+    EXPECT_EQ(fr->AguardePanel->GetColor(), TColor::DeRGB(177, 203, 224));
+    EXPECT_EQ(fr->AguardePanel->GetFontColor(), TColor::DeRGB(49, 91, 125));
+    EXPECT_EQ(fr->PanelLaranja->GetColor(), TColor::DeRGB(185, 124, 0));
+    EXPECT_EQ(fr->PanelLaranja->GetFontColor(), TColor::DeRGB(255, 255, 0));
+}
+
+TEST_F(TBasFrTest, TheFrameMayGoWhileTheWaitPanelPumpsEvents)
+{
+    for (const bool esconder : {false, true}) {
+        QPointer<TBasFr> fr = Criar<TBasFr>(&janela);
+        QMetaObject::invokeMethod(
+            &janela, [&] { delete fr; }, Qt::QueuedConnection);
+        if (esconder)
+            fr->AguardeEsconder();
+        else
+            fr->AguardeExibir();
+        EXPECT_TRUE(fr.isNull());
+    }
 }
 
 TEST_F(TBasFrTest, TheWaitPanelIsCentredInFrontAndPainted)
@@ -137,6 +160,18 @@ TEST_F(TBasFrTest, ControlesHabilitadosReachesDirectChildrenOnly)
     EXPECT_FALSE(neto->isEnabled()) << "it follows its parent";
     fr->ControlesHabilitados(true);
     EXPECT_TRUE(neto->isEnabled());
+    neto->setEnabled(false);
+    fr->ControlesHabilitados(true);
+    EXPECT_FALSE(neto->isEnabled()) << "nor is a grandchild enabled";
+}
+
+TEST_F(TBasFrTest, ControlesHabilitadosLeavesWindowsOfTheFrameAlone)
+{
+    auto *fr = Criar<TBasFr>(&janela);
+    QWidget dialogo(fr, Qt::Dialog);
+    fr->ControlesHabilitados(false);
+    EXPECT_TRUE(dialogo.isEnabled());
+    EXPECT_FALSE(fr->AguardePanel->isEnabledTo(fr));
 }
 
 TEST_F(TBasFrTest, SimuleTeclaWithoutControlAndFocusGoesToTheFrame)

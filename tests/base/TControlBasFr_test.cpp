@@ -231,6 +231,44 @@ TEST_F(TControlBasFrTest, ADestroyedFrameClearsOnlyItsOwnBackReference)
     EXPECT_EQ(tela->GetChamador(), nullptr);
 }
 
+TEST_F(TControlBasFrTest, AFrameMayGoWhileItsWarningIsShown)
+{
+    QPointer<TEditFr> vivo = fr;
+    Servicos().MensagemAviso = [&](const QString &, int) { delete vivo; };
+    fr->edit->setText(QStringLiteral("ruim"));
+    EXPECT_FALSE(fr->CanExit());
+    EXPECT_TRUE(vivo.isNull());
+
+    vivo = Criar<TEditFr>(&janela);
+    vivo->show();
+    vivo->edit->setFocus();
+    vivo->edit->setText(QStringLiteral("ruim"));
+    QTest::keyClick(vivo->edit, Qt::Key_Tab);
+    EXPECT_TRUE(vivo.isNull());
+}
+
+TEST_F(TControlBasFrTest, AFrameWithoutParentIsNeverAskedOnExit)
+{
+    fr->setParent(nullptr);
+    fr->edit->setText(QStringLiteral("ruim"));
+    fr->perguntas = 0;
+    fr->OnExit(fr);
+    EXPECT_EQ(fr->perguntas, 0);
+    delete fr;
+}
+
+TEST_F(TControlBasFrTest, AFrameMayGoInItsOwnSelection)
+{
+    TActionList acoes(&janela);
+    TAction acao(&acoes);
+    int chamadas = 0;
+    fr->SelecionarAction = &acao;
+    fr->OnSelecionar = [&](QObject *) { ++chamadas; };
+    acao.OnExecute = [&](QObject *) { delete fr; };
+    fr->Selecionar();
+    EXPECT_EQ(chamadas, 0);
+}
+
 } // namespace
 
 #include "TControlBasFr_test.moc"

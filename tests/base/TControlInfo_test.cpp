@@ -9,6 +9,7 @@
 #include "platform/toolkit/TMaskEdit.h"
 #include "platform/toolkit/TMemo.h"
 
+#include <QLineEdit>
 #include <QPushButton>
 
 using namespace ficha;
@@ -170,6 +171,41 @@ TEST_F(TControlInfoTest, AControlOfAnUnknownKindIsLeftUntouched)
     Ligar(semColuna);
     EXPECT_EQ(info.Frame(), nullptr) << "a value frame without a column is no kind of its own";
     EXPECT_TRUE(info.GetValor().EhNaoAtribuido());
+}
+
+TEST_F(TControlInfoTest, AComboBoxMayGoWhileItsValueIsShown)
+{
+    TServicosGuarda guarda;
+    auto *combo = new TComboBox(&janela);
+    combo->setObjectName(QStringLiteral("CNPJ"));
+    Servicos().MensagemSimples = [&](const QString &) { delete combo; };
+    Ligar(combo);
+    info.SetValor(QStringLiteral("1"));
+    EXPECT_EQ(info.Control(), nullptr);
+}
+
+TEST_F(TControlInfoTest, ANumberOrADateIsShownAsItsTextInAPlainEdit)
+{
+    QLineEdit edit(&janela);
+    Ligar(&edit);
+    info.SetValor(12.5);
+    EXPECT_EQ(edit.text(), QStringLiteral("12,5"));
+    info.SetValor(TDateTime::DeData(5, 3, 2026));
+    EXPECT_EQ(edit.text(), QStringLiteral("05/03/2026"));
+}
+
+TEST_F(TControlInfoTest, ADateMaskTakesADateAsTextToo)
+{
+    TMaskEditBR edit(&janela);
+    edit.SetEditMask(QStringLiteral("99/99/99"));
+    Ligar(&edit);
+    info.SetValor(QStringLiteral("05/03/2026"));
+    EXPECT_EQ(edit.GetText(), QStringLiteral("05/03/26"));
+    info.SetValor(TDateTime());
+    EXPECT_EQ(edit.GetText().remove(u'/').trimmed(), QString()) << "day 0 is no date";
+    info.SetValor(TDateTime::DeData(5, 3, 2026));
+    info.Zerar();
+    EXPECT_EQ(edit.GetText().remove(u'/').trimmed(), QString());
 }
 
 } // namespace
