@@ -16,6 +16,12 @@ TCampo::TCampo()
 {
 }
 
+TCampo::~TCampo()
+{
+    if (TControlBasFr *frame = ControlInfo ? ControlInfo->Frame() : nullptr)
+        frame->DesligarColuna(this);
+}
+
 bool TCampo::ColunaTexto() const
 {
     return Field && Field->DataType() == TFieldType::ftString;
@@ -56,18 +62,25 @@ int TCampo::AsInteger() const
 
 QString TCampo::AsString() const
 {
-    if (EhLista()) {
-        if (Valor.EhNulo() || Valor.EhNaoAtribuido())
-            return {};
-        const bool dentro = Valor > Variant(-1) && Valor < Variant(Lista->Count());
-        return dentro ? Lista->Texto(Valor.AsInteger()) : QString();
-    }
+    if (EhLista())
+        return TextoDaLista();
     if (OnAsString) {
         QString texto;
         OnAsString(const_cast<TCampo *>(this), texto);
         return texto;
     }
     return TextoPeloTipo();
+}
+
+QString TCampo::TextoDaLista() const
+{
+    double n = -1;
+    if (Valor.EhTexto())
+        TextoParaDouble(Valor.AsString(), &n);
+    else if (!Valor.EhNulo() && !Valor.EhNaoAtribuido())
+        n = Valor.AsFloat();
+    const bool dentro = n > -1 && n < Lista->Count();
+    return dentro ? Lista->Texto(int(n)) : QString();
 }
 
 QString TCampo::TextoPeloTipo() const
@@ -106,11 +119,15 @@ QString TCampo::TextoDoNumero() const
 
 void TCampo::PegarValor()
 {
-    if (!Field)
-        return;
-    SetValor(Field->Value());
-    if (TemEstrangeiro && FieldEstrangeiro)
+    LerColuna();
+    if (Field && TemEstrangeiro && FieldEstrangeiro)
         TextoEstrangeiro = FieldEstrangeiro->AsString();
+}
+
+void TCampo::LerColuna()
+{
+    if (Field)
+        SetValor(Field->Value());
 }
 
 void TCampo::PreencherControl()

@@ -19,6 +19,8 @@ class TCampo
 {
 public:
     TCampo();
+    /** Unbinds the frame that still points here. */
+    ~TCampo();
     TCampo(const TCampo &) = delete;
     TCampo &operator=(const TCampo &) = delete;
 
@@ -30,18 +32,22 @@ public:
     /** String column: the empty string; integer and float columns: 0; others: never. It does not
      * test for the Null value itself; kept as it is. */
     bool IsNull() const;
-    /** String columns give the integer that their text reads as; other than string, integer and
-     * float columns give 0. EVariantError when a number does not fit 32 bits. */
+    /** String columns give the integer that their text reads as, 0 when it is none; other than
+     * string, integer and float columns give 0. EVariantError when a number does not fit 32 bits.
+     */
     int AsInteger() const;
     /**
      * The value as lists show it: the list's entry, else OnAsString's text, else by Tipo.
      *
+     * A list field whose value is no number (Null, an empty or other text) has no entry: empty.
      * Tipo 6 of a Null value is the text of 0 ("0", or 0 under the display format): Null converts
      * to the number 0 here as everywhere.
      */
     QString AsString() const;
     /** Takes the column's current value, and the description of a foreign key. */
     void PegarValor();
+    /** Takes the column's current value alone, for rows that are only walked over. */
+    void LerColuna();
     /** Shows the value in the bound input. */
     void PreencherControl();
     /** Shows the stored value again in the bound input. */
@@ -82,6 +88,7 @@ public:
     QString FormatoFloat;
 
 private:
+    QString TextoDaLista() const;
     QString TextoPeloTipo() const;
     QString TextoDoCaractere() const;
     QString TextoDoNumero() const;

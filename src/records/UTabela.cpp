@@ -135,7 +135,7 @@ int TTabela::GenMaiorCod(const QString &tabela) const
 
 int TTabela::GenVal(const QString &tabela) const
 {
-    return int(ficha::GenVal(NomeDoGerador(tabela)));
+    return Variant(double(ficha::GenVal(NomeDoGerador(tabela)))).AsInteger();
 }
 
 void TTabela::GenSet(const QString &tabela, int valor) const
@@ -146,7 +146,7 @@ void TTabela::GenSet(const QString &tabela, int valor) const
 void TTabela::GenUpDate(const QString &tabela) const
 {
     const int maior = GenMaiorCod(tabela);
-    if (maior > GenVal(tabela))
+    if (maior > ficha::GenVal(NomeDoGerador(tabela)))
         GenSet(tabela, maior);
 }
 

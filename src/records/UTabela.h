@@ -50,9 +50,9 @@ public:
     /** Takes the values of all fields but the keys from the columns of the same names of another
      * dataset and shows them. */
     void LerCamposDoDataSet(const TDataSet *dataset);
-    /** Highest code stored in a table; 0 for an empty one. */
+    /** Highest code stored in a table; 0 for an empty one, EVariantError beyond 32 bits. */
     int GenMaiorCod(const QString &tabela) const;
-    /** The table's generator, named after it. */
+    /** The table's generator, named after it; EVariantError when its value is beyond 32 bits. */
     int GenVal(const QString &tabela) const;
     void GenSet(const QString &tabela, int valor) const;
     /** Moves the generator up to the highest code in use, never down. */

@@ -17,11 +17,6 @@ TTabelaLinear::TTabelaLinear(TChave chave) : TTabela(chave) {}
 TTabelaLinear::~TTabelaLinear()
 {
     Protegido([this] { LiberarTrava(); });
-    for (int i = 0; Campos && i < Campos->Count(); ++i) {
-        const TCampo *campo = Campos->Campos(i);
-        if (TControlBasFr *frame = campo->ControlInfo ? campo->ControlInfo->Frame() : nullptr)
-            frame->DesligarColuna(campo);
-    }
 }
 
 void TTabelaLinear::Create(TDataSet *dataset, const QString &nomeTabela)
@@ -96,10 +91,15 @@ void TTabelaLinear::ExclCancel()
 
 bool TTabelaLinear::GarantiaRegistro()
 {
+    if (!DataSet)
+        return false;
     const QString chaves = ChavesGarantia();
+    const std::weak_ptr<const char> viva = vida;
     // One record at a time: a lock that an edit left behind would else never be given back.
     LiberarTrava();
     const bool obtida = Travar(chaves, WhereStr());
+    if (viva.expired())
+        return false;
     const auto relerNoMesmo = [&] {
         DataSet->Close();
         DataSet->Open();
@@ -125,6 +125,7 @@ bool TTabelaLinear::GarantirTrava()
                    : Travar(ChavesGarantia(), WhereStr());
 }
 
+/** A refusal is told in a message box, behind which the table may have gone with its screen. */
 bool TTabelaLinear::Travar(const QString &chaves, const QString &onde)
 {
     if (!GarantiaTentar(NomeTabela, chaves, onde))
@@ -224,23 +225,12 @@ QString TTabelaLinear::WhereStr() const
 
 QString TTabelaLinear::ChavesGarantia() const
 {
-    return TextoDaChave(false);
-}
-
-/** The key as text; with relerCampos the key fields first take the dataset's current row. */
-QString TTabelaLinear::TextoDaChave(bool relerCampos) const
-{
     QString texto;
     const int chaves = Campos->NChaves();
     for (int i = 0; i < chaves; ++i) {
-        TCampo *campo = Campos->Campos(i);
-        if (relerCampos && campo->OnAsString)
-            Campos->PegarValores();
-        else if (relerCampos)
-            campo->PegarValor();
         if (i > 0)
             texto += u';';
-        texto += campo->AsString();
+        texto += Campos->Campos(i)->AsString();
     }
     return texto;
 }
@@ -301,16 +291,21 @@ void TTabelaLinear::SetRecno(int n)
     const int registros = NRegistros();
     if (registros == 0) {
         Fim = true;
+        LerRegistro();
         RecNo = -1;
-    } else {
-        RecNo = std::max(1, std::min(n, registros));
-        PosicionarDataSet(RecNo);
+        return;
     }
+    RecNo = std::max(1, std::min(n, registros));
+    PosicionarDataSet(RecNo);
+    LerRegistro();
+    Fim = false;
+}
+
+void TTabelaLinear::LerRegistro()
+{
     Campos->PegarValores();
     if (AtualizarControles)
         Campos->PreencherControls();
-    if (registros > 0)
-        Fim = false;
 }
 
 void TTabelaLinear::PosicionarDataSet(int n)
@@ -329,19 +324,62 @@ bool TTabelaLinear::Locate(const QString &)
 
 void TTabelaLinear::LocalizarPelaChave(const QString &chaves)
 {
+    if (NRegistros() == 0)
+        return;
+    std::vector<TCampo *> campos;
+    for (int i = 0; i < Campos->NChaves(); ++i)
+        campos.push_back(Campos->Campos(i));
+    const bool todos = TemEvento(campos);
+    int achada = 1;
+    PercorrerLinhas([&] {
+        if (todos)
+            Campos->PegarValores();
+        if (!LinhaTemChave(campos, chaves))
+            return true;
+        achada = RecNo;
+        return false;
+    });
+    SetRecno(achada);
+}
+
+/**
+ * Stands on each row in turn, from the first one on, until f answers false: the walk of First and
+ * Next, save that nothing is read or shown. What f needs of a row it reads itself; the caller ends
+ * with SetRecno, which brings all fields and inputs to the row that stays.
+ */
+template <typename F>
+void TTabelaLinear::PercorrerLinhas(F f)
+{
     const int registros = NRegistros();
     if (registros == 0)
         return;
-    int achada = 1;
+    Fim = false;
     DataSet->First();
-    for (int n = 1; n <= registros; ++n) {
-        if (TextoDaChave(true) == chaves) {
-            achada = n;
-            break;
-        }
+    for (RecNo = 1; f() && RecNo < registros; ++RecNo)
         DataSet->MoveBy(1);
+}
+
+/** An event may look at every field of its row. */
+bool TTabelaLinear::TemEvento(const std::vector<TCampo *> &campos)
+{
+    return std::ranges::any_of(campos, [](const TCampo *c) { return bool(c->OnAsString); });
+}
+
+/** Whether ChavesGarantia of the row would be this text, compared piece by piece: most rows differ
+ * in their first key field already. */
+bool TTabelaLinear::LinhaTemChave(const std::vector<TCampo *> &campos, QStringView chaves)
+{
+    for (size_t i = 0; i < campos.size(); ++i) {
+        if (i > 0 && !chaves.startsWith(u';'))
+            return false;
+        campos[i]->LerColuna();
+        const QString texto = campos[i]->AsString();
+        chaves = chaves.mid(i > 0 ? 1 : 0);
+        if (!chaves.startsWith(texto))
+            return false;
+        chaves = chaves.mid(texto.size());
     }
-    SetRecno(achada);
+    return chaves.isEmpty();
 }
 
 void TTabelaLinear::PreencherStringGrid(TStringGrid *grid)
@@ -380,36 +418,29 @@ void TTabelaLinear::PreencherTitulos(TStringGrid *grid) const
     }
 }
 
-/** Only the visible fields are read from each row, save where a field renders itself through its
- * event, which may look at any other field. */
+/** Only the visible fields are read from each row, save where one of them renders itself through
+ * its event. */
 void TTabelaLinear::PreencherLinhas(TStringGrid *grid)
 {
-    std::vector<TCampo *> lidos;
     std::vector<TCampo *> visiveis;
-    bool temEvento = false;
     for (int i = 0; i < Campos->Count(); ++i) {
-        TCampo *campo = Campos->Campos(i);
-        temEvento = temEvento || (campo->Visivel && campo->OnAsString);
-        if (campo->Visivel)
-            visiveis.push_back(campo);
-        if (campo->Visivel || i == 0)
-            lidos.push_back(campo);
+        if (Campos->Campos(i)->Visivel)
+            visiveis.push_back(Campos->Campos(i));
     }
-    const TCampo *primeiro = Campos->Campos(0);
-    const int registros = NRegistros();
-    DataSet->First();
-    for (int r = 1; r <= registros; ++r) {
-        RecNo = r;
-        if (temEvento)
+    const bool todos = TemEvento(visiveis);
+    const TField *primeira = Campos->Campos(0)->Field;
+    PercorrerLinhas([&] {
+        if (primeira && primeira->IsNull())
+            return false;
+        if (todos)
             Campos->PegarValores();
-        else
-            std::ranges::for_each(lidos, &TCampo::PegarValor);
-        if (primeiro->Field && primeiro->Field->IsNull())
-            break;
-        for (size_t c = 0; c < visiveis.size(); ++c)
-            grid->SetCell(int(c), r, visiveis[c]->AsString());
-        DataSet->MoveBy(1);
-    }
+        for (size_t c = 0; c < visiveis.size(); ++c) {
+            if (!todos)
+                visiveis[c]->LerColuna();
+            grid->SetCell(int(c), RecNo, visiveis[c]->AsString());
+        }
+        return true;
+    });
 }
 
 void TTabelaLinear::PreencherStringList(TLinhas &lista, int i)
@@ -419,18 +450,15 @@ void TTabelaLinear::PreencherStringList(TLinhas &lista, int i)
     const auto religar = qScopeGuard([this] { AtualizarControles = true; });
     lista.Clear();
     TCampo *campo = Campos->Campos(i);
-    const int registros = NRegistros();
-    if (registros > 0)
-        DataSet->First();
-    for (int n = 1; n <= registros; ++n) {
-        RecNo = n;
-        if (campo->OnAsString)
+    const bool todos = bool(campo->OnAsString);
+    PercorrerLinhas([&] {
+        if (todos)
             Campos->PegarValores();
         else
-            campo->PegarValor();
+            campo->LerColuna();
         lista.Add(campo->AsString());
-        DataSet->MoveBy(1);
-    }
+        return true;
+    });
     SetRecno(lembrado);
 }
 

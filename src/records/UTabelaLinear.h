@@ -22,7 +22,7 @@ class TTabelaLinear : public TTabela
 {
 public:
     explicit TTabelaLinear(TChave chave);
-    /** Releases the lock that is still held and unbinds the frames that still point here. */
+    /** Releases the lock that is still held; the fields unbind the frames that point here. */
     ~TTabelaLinear() override;
 
     void Create(TDataSet *dataset, const QString &nomeTabela) override;
@@ -40,7 +40,8 @@ public:
     void ExclCancel() override;
     /**
      * Takes the lock of the current record, re-reads the dataset in either case and stands on the
-     * same record again (the first when it is gone). The inputs are not touched.
+     * same record again (the first when it is gone). The inputs are not touched. A lock that the
+     * table still holds from an earlier edit is given back first. False without a dataset.
      */
     bool GarantiaRegistro() override;
     /**
@@ -86,7 +87,9 @@ public:
     bool Locate(const QString &texto);
     /** Makes current the row whose key text is exactly this one, else the first row. */
     void LocalizarPelaChave(const QString &chaves);
-    /** Fills a grid with the visible fields of all rows. A Null first field ends the filling. */
+    /** Fills a grid with the visible fields of all rows. A row whose first field's column is Null
+     * in the database, a text column's included, ends the filling: the grid's further rows keep
+     * what they held. */
     void PreencherStringGrid(TStringGrid *grid);
     /** Fills a list with the text of field i of every row; AtualizarControles is left on. */
     void PreencherStringList(TLinhas &lista, int i);
@@ -108,7 +111,11 @@ private:
     TCampo *NovoCampo(TField *field, bool chave, int largura, bool visivel);
     void LigarControl(TCampo *campo, QWidget *control);
     int NRegistros() const;
-    QString TextoDaChave(bool relerCampos) const;
+    void LerRegistro();
+    template <typename F>
+    void PercorrerLinhas(F f);
+    static bool TemEvento(const std::vector<TCampo *> &campos);
+    static bool LinhaTemChave(const std::vector<TCampo *> &campos, QStringView chaves);
     void PreencherTitulos(TStringGrid *grid) const;
     void PreencherLinhas(TStringGrid *grid);
     bool Travar(const QString &chaves, const QString &onde);
@@ -122,6 +129,7 @@ private:
         qint64 numero; /**< tells this table's lock from one that another screen took since */
     };
     std::optional<TTravado> travado;
+    const std::shared_ptr<const char> vida = std::make_shared<const char>(); /**< as long as this */
 };
 
 } // namespace ficha

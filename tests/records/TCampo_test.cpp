@@ -334,6 +334,46 @@ TEST(TCampo, ADatasetThatDiesFirstLeavesAFieldWithoutAColumn)
     EXPECT_EQ(campo.AsString(), QStringLiteral("7"));
 }
 
+TEST_F(TCampoTest, AListFieldWithoutANumberHasNoEntry)
+{
+    TLinhas lista;
+    lista.Add(QStringLiteral("zero"));
+    lista.Add(QStringLiteral("um"));
+    TCampo *c = Campo("letra");
+    c->Lista = &lista;
+    c->SetValor(QStringLiteral("1"));
+    EXPECT_EQ(c->AsString(), QStringLiteral("um"));
+    for (const char *texto : {"", "B", "2", "-1"}) {
+        c->SetValor(QString::fromLatin1(texto));
+        EXPECT_EQ(c->AsString(), QString()) << texto;
+    }
+    c = Campo("preco");
+    c->Lista = &lista;
+    c->SetValor(1.9);
+    EXPECT_EQ(c->AsString(), QStringLiteral("um")) << "never beyond the last entry";
+}
+
+TEST_F(TCampoTest, AFieldThatGoesUnbindsItsFrame)
+{
+    QWidget janela;
+    auto *fr = Criar<TCodFr>(&janela);
+    TCampo *c = Campo("cod");
+    c->ControlInfo = std::make_unique<TControlInfo>();
+    c->ControlInfo->SetControl(fr);
+    fr->PegarColuna(c, nullptr);
+    campo.reset();
+    EXPECT_EQ(fr->Campo, nullptr);
+}
+
+TEST_F(TCampoTest, AsIntegerOfATextThatIsNoNumberIsZero)
+{
+    TCampo *nome = Campo("nome");
+    nome->SetValor(QStringLiteral("Ana"));
+    EXPECT_EQ(nome->AsInteger(), 0);
+    nome->SetValor(QStringLiteral("-12.345-6"));
+    EXPECT_EQ(nome->AsInteger(), -123456);
+}
+
 } // namespace
 
 #include "TCampo_test.moc"

@@ -209,6 +209,64 @@ TEST_F(TDBControlBasFrTest, ErrorsOfTheUniquenessQueryReachTheCaller)
     EXPECT_THROW((void)fr->ValorAceitavel(), EDatabaseError);
 }
 
+/** A "table" that notes the statement which reads it. */
+const QString Espiao = QStringLiteral(
+    "set term ^;"
+    "create procedure espiao returns (item_cod integer, nome varchar(30), nivel integer) as "
+    "declare texto varchar(255); declare r integer; begin "
+    "in autonomous transaction do " // for each has its own picture of the statements
+    "select first 1 cast(mon$sql_text as varchar(255)) from mon$statements "
+    "where mon$attachment_id = current_connection and mon$sql_text containing 'from espiao ' "
+    "into texto; r = rdb$set_context('USER_SESSION', 'LIDO', texto); suspend; end^");
+
+TEST_F(TDBControlBasFrTest, TheStatementsAreThoseToTheLetter)
+{
+    banco.Conexao().ExecutarScript(Espiao);
+    tab->SetRecno(2);
+    tab->NomeTabela = QStringLiteral("espiao");
+    fr->texto = QStringLiteral("O'Bá");
+    nivel->texto = QStringLiteral("30");
+    const auto lido = [&](const TTextoFr *qual) {
+        EXPECT_FALSE(qual->Repetido());
+        return banco
+            .Valor(
+                QStringLiteral("select rdb$get_context('USER_SESSION', 'LIDO') from rdb$database"))
+            .AsString();
+    };
+    tab->InsIni();
+    EXPECT_EQ(lido(fr), QStringLiteral("select NOME from espiao where UPPER(NOME)=UPPER('O''Bá') "
+                                       "collate pt_pt and ltrim(rtrim(NOME))<>''"));
+    EXPECT_EQ(lido(nivel), QStringLiteral("select NIVEL from espiao where NIVEL=30 and NIVEL<>0"));
+    tab->InsCancel();
+    for (const bool alterar : {true, false}) {
+        fr->texto = nivel->texto = alterar ? QStringLiteral("31") : QStringLiteral("32");
+        alterar ? tab->AltIni() : tab->ExclIni();
+        EXPECT_EQ(lido(fr), QStringLiteral("select NOME from espiao where (upper(NOME)=upper('%1') "
+                                           "collate pt_pt) and ITEM_COD<>2 and "
+                                           "ltrim(rtrim(NOME))<>''")
+                                .arg(fr->texto));
+        EXPECT_EQ(lido(nivel),
+                  QStringLiteral("select NIVEL from espiao where NIVEL=%1 and ITEM_COD<>2")
+                      .arg(nivel->texto));
+        tab->AltCancel();
+    }
+}
+
+TEST_F(TDBControlBasFrTest, EditarIsLeftAloneInEveryOpenState)
+{
+    TTelaFalsa tela;
+    fr->SetFormTabela(&tela);
+    tab->AltIni();
+    fr->Editar();
+    tab->AltCancel();
+    tab->ExclIni();
+    fr->Editar();
+    tab->ExclCancel();
+    EXPECT_EQ(tela.alteracoes, 0);
+    fr->Editar();
+    EXPECT_EQ(tela.alteracoes, 1);
+}
+
 } // namespace
 
 #include "TDBControlBasFr_test.moc"

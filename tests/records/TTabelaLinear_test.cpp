@@ -3,7 +3,9 @@
 #include "support/BancoTemp.h"
 
 #include "base/UDBControlBasFr.h"
+#include "platform/core/Erros.h"
 #include "platform/core/Servicos.h"
+#include "platform/database/TTravas.h"
 #include "platform/toolkit/TLabeledEdit.h"
 #include "platform/toolkit/TStringGrid.h"
 
@@ -422,6 +424,209 @@ TEST_F(TTabelaLinearTest, ColumnsStayBoundOverEveryReopening)
         tab->Last();
         EXPECT_EQ(edit.text(), QStringLiteral("novo %1").arg(i));
     }
+}
+
+/** The walks as they are stated, row by row through First and Next. */
+void LocalizarSimples(TTabelaLinear &tab, const QString &chaves)
+{
+    for (tab.First(); !tab.Fim; tab.Next()) {
+        if (tab.ChavesGarantia() == chaves)
+            return;
+    }
+    tab.First();
+}
+
+QStringList Textos(TTabelaLinear &tab)
+{
+    QStringList textos{QString::number(tab.RecNo), QString::number(tab.Fim),
+                       QString::number(tab.DataSet->RecNo()), QString::number(tab.DataSet->Eof()),
+                       QString::number(tab.DataSet->Bof())};
+    for (int i = 0; i < tab.Campos->Count(); ++i)
+        textos << tab.Campos->Campos(i)->AsString() << tab.Campos->Campos(i)->TextoEstrangeiro;
+    return textos;
+}
+
+TEST_F(TTabelaLinearTest, TheStateAfterASearchIsThatOfTheSimpleWalk)
+{
+    Abrir({1, 11, 12, 2},
+          QStringLiteral("select nivel / 10 as a, cast(nome as char(12)) as b, item_cod, nivel "
+                         "from item order by item_cod desc"));
+    tab->PegarCampoChave(query.FieldByName(QStringLiteral("a")), 50, fr);
+    tab->PegarCampoChave(query.FieldByName(QStringLiteral("b")));
+    tab->PegarCampoChaveEstrangeira(query.FieldByName(QStringLiteral("nivel")),
+                                    query.FieldByName(QStringLiteral("b")), 90, &edit);
+    for (const char *chaves : {"1;nome 1", "11;nome 11", "12;nome 12", "2;nome 2", "1;nome 11",
+                               "1;nome", "1", "1;", "", ";", "2;Nome 2", "2;nome 2;", "x"}) {
+        const QString texto = QString::fromLatin1(chaves);
+        LocalizarSimples(*tab, texto);
+        const QStringList esperado = Textos(*tab) << fr->valor.AsString() << edit.text();
+        tab->SetRecno(3);
+        tab->LocalizarPelaChave(texto);
+        EXPECT_EQ(Textos(*tab) << fr->valor.AsString() << edit.text(), esperado) << chaves;
+    }
+}
+
+TEST_F(TTabelaLinearTest, TheStateAfterTheFillsIsWhatItWas)
+{
+    Abrir({1, 2, 3});
+    LigarTudo();
+    tab->PegarCampoChaveEstrangeira(query.FieldByName(QStringLiteral("nivel")),
+                                    query.FieldByName(QStringLiteral("nome")), 90, nullptr);
+    tab->SetRecno(2);
+    const QStringList antes = Textos(*tab);
+    TStringGrid grid;
+    tab->PreencherStringGrid(&grid);
+    EXPECT_EQ(Textos(*tab), antes);
+    TLinhas lista;
+    tab->PreencherStringList(lista, 3);
+    EXPECT_EQ(lista.Texto(2), QStringLiteral("30"));
+    EXPECT_EQ(Textos(*tab), antes);
+    tab->Next();
+    tab->Next();
+    ASSERT_TRUE(tab->Fim);
+    tab->PreencherStringList(lista, 3);
+    EXPECT_FALSE(tab->Fim) << "making the row current again ends the walk's end";
+}
+
+TEST_F(TTabelaLinearTest, AnEventOfAKeySeesItsWholeRow)
+{
+    Abrir({1, 2, 3});
+    LigarTudo();
+    tab->Campos->Campos(0)->OnAsString = [this](TCampo *, QString &texto) {
+        texto = QString::number(tab->RecNo) + u'/' + tab->Campos->Campos(2)->Valor.AsString();
+    };
+    tab->LocalizarPelaChave(QStringLiteral("3/30"));
+    EXPECT_EQ(tab->RecNo, 3);
+    TLinhas lista;
+    tab->PreencherStringList(lista, 0);
+    EXPECT_EQ(lista.Texto(1), QStringLiteral("2/20"));
+}
+
+TEST_F(TTabelaLinearTest, WithoutKeyFieldsTheEmptyKeyIsTheFirstRows)
+{
+    Abrir({1, 2});
+    tab->PegarCampo(query.FieldByName(QStringLiteral("nome")));
+    tab->SetRecno(2);
+    tab->LocalizarPelaChave(QString());
+    EXPECT_EQ(tab->RecNo, 1);
+}
+
+TEST_F(TTabelaLinearTest, AnEmptiedDatasetShowsItsNothing)
+{
+    Abrir({1});
+    LigarTudo();
+    tab->First();
+    EXPECT_EQ(edit.text(), QStringLiteral("nome 1"));
+    banco.Conexao().Executar(QStringLiteral("delete from item"));
+    query.Close();
+    query.Open();
+    tab->AtualizarControles = false;
+    tab->SetRecno(1);
+    EXPECT_EQ(tab->RecNo, -1);
+    EXPECT_TRUE(tab->Fim);
+    EXPECT_TRUE(tab->Campos->Campos(0)->Valor.EhNulo());
+    EXPECT_EQ(edit.text(), QStringLiteral("nome 1"));
+    tab->AtualizarControles = true;
+    tab->Next();
+    EXPECT_EQ(edit.text(), QString());
+    tab->LocalizarPelaChave(QStringLiteral("1"));
+    EXPECT_EQ(tab->RecNo, -1);
+}
+
+TEST_F(TTabelaLinearTest, ANullTextInTheFirstFieldStopsTheFillAndTheRestStaysAsItWas)
+{
+    Abrir({1, 2, 3},
+          QStringLiteral("select nullif(nome, 'nome 2') as n, nivel from item order by item_cod"));
+    tab->PegarCampo(query.FieldByName(QStringLiteral("n")), 50);
+    tab->PegarCampo(query.FieldByName(QStringLiteral("nivel")), 50);
+    tab->SetRecno(3);
+    TStringGrid grid;
+    grid.SetColCount(2);
+    grid.SetRowCount(4);
+    for (int r = 1; r < 4; ++r)
+        grid.SetCell(1, r, QStringLiteral("velho"));
+    tab->PreencherStringGrid(&grid);
+    EXPECT_EQ(grid.GetCell(1, 1), QStringLiteral("10"));
+    EXPECT_EQ(grid.GetCell(1, 2), QStringLiteral("velho"));
+    EXPECT_EQ(grid.GetCell(1, 3), QStringLiteral("velho"));
+    EXPECT_EQ(tab->RecNo, 3);
+    EXPECT_EQ(tab->Campos->Campos(1)->Valor, Variant(30));
+}
+
+TEST_F(TTabelaLinearTest, TheFillRestoresAtualizarControlesAlsoWhenItWasOffOrFailed)
+{
+    Abrir({1, 2});
+    LigarTudo();
+    TStringGrid grid;
+    tab->AtualizarControles = false;
+    tab->PreencherStringGrid(&grid);
+    EXPECT_FALSE(tab->AtualizarControles);
+    tab->AtualizarControles = true;
+    tab->Campos->Campos(1)->OnAsString = [](TCampo *, QString &) {
+        throw EVariantError(QStringLiteral("falhou"));
+    };
+    EXPECT_THROW(tab->PreencherStringGrid(&grid), EVariantError);
+    EXPECT_TRUE(tab->AtualizarControles);
+}
+
+TEST_F(TTabelaLinearTest, OnlyTheFourEndsOfAnAlterationOrDeletionReleaseTheLock)
+{
+    Abrir({1, 2});
+    LigarTudo();
+    tab->SetRecno(2);
+    const TTravas &travas = banco.Conexao().Travas();
+    ASSERT_TRUE(tab->GarantiaRegistro());
+    tab->InsIni();
+    tab->InsCancel();
+    tab->AltIni();
+    tab->InsFim();
+    EXPECT_TRUE(travas.Detem(QStringLiteral("item"), QStringLiteral("2")));
+    for (void (TTabelaLinear::*fim)() : {&TTabelaLinear::AltFim, &TTabelaLinear::AltCancel,
+                                         &TTabelaLinear::ExclFim, &TTabelaLinear::ExclCancel}) {
+        ASSERT_TRUE(tab->GarantiaRegistro());
+        (tab.get()->*fim)();
+        EXPECT_EQ(travas.Count(), 0);
+    }
+}
+
+TEST_F(TTabelaLinearTest, TheTableMayGoWhileARefusalIsShown)
+{
+    Abrir({1});
+    LigarTudo();
+    tab->First();
+    ASSERT_TRUE(banco.Conexao().Travas().Tentar(QStringLiteral("item"), QStringLiteral("1")));
+    TTabelaLinear *ido = tab.get();
+    Servicos().MensagemAviso = [this](const QString &, int) { tab.reset(); };
+    EXPECT_FALSE(ido->GarantiaRegistro());
+    EXPECT_EQ(tab, nullptr);
+}
+
+TEST_F(TTabelaLinearTest, AFailedReReadingKeepsNoLock)
+{
+    Abrir({1}, QStringLiteral("select * from item where 1 / (3 - nivel / 10) > 0"));
+    LigarTudo();
+    tab->First();
+    banco.Conexao().Executar(QStringLiteral("insert into item values (2, 'x', 30)"));
+    EXPECT_THROW((void)tab->GarantiaRegistro(), EDatabaseError);
+    EXPECT_EQ(banco.Conexao().Travas().Count(), 0);
+    EXPECT_TRUE(tab->AtualizarControles);
+}
+
+TEST_F(TTabelaLinearTest, WithoutADatasetNoRecordIsMadeSureOf)
+{
+    tab = Criar<TTabelaLinear>(nullptr, QStringLiteral("item"));
+    EXPECT_EQ(tab->RecNo, -1);
+    EXPECT_FALSE(tab->GarantiaRegistro());
+    EXPECT_EQ(banco.Conexao().Travas().Count(), 0);
+}
+
+TEST_F(TTabelaLinearTest, ClearedFieldsUnbindTheirFrames)
+{
+    Abrir({1});
+    LigarTudo();
+    tab->Campos->Clear();
+    EXPECT_EQ(fr->Campo, nullptr);
+    EXPECT_EQ(fr->Tabela, nullptr);
 }
 
 } // namespace

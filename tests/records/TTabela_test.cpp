@@ -1,3 +1,4 @@
+#include "platform/core/Erros.h"
 #include "platform/database/TSQLQuery.h"
 #include "records/UTabela.h"
 #include "support/BancoTemp.h"
@@ -120,6 +121,25 @@ TEST_F(TTabelaTest, AConfirmedInsertionBringsTheGeneratorUp)
     tab->InsFim();
     EXPECT_EQ(tab->Status, TStatus::Ocioso);
     EXPECT_EQ(tab->GenVal(QStringLiteral("item")), 10);
+}
+
+TEST_F(TTabelaTest, AGeneratorBeyond32BitsIsNeverMovedDownEither)
+{
+    Inserir(7, "sete");
+    banco.Conexao().Executar(QStringLiteral("set generator item_cod_gen to 5000000000"));
+    EXPECT_THROW((void)tab->GenVal(QStringLiteral("item")), EVariantError);
+    tab->InsFim();
+    EXPECT_EQ(banco.Valor(QStringLiteral("select gen_id(item_cod_gen, 0) from rdb$database")),
+              Variant(5000000000.0));
+}
+
+TEST_F(TTabelaTest, ErrorsOfTheDatabaseReachTheCallerWithTheStateClosed)
+{
+    tab->NomeTabela = QStringLiteral("nao_existe");
+    tab->InsIni();
+    EXPECT_THROW(tab->InsFim(), EDatabaseError);
+    EXPECT_EQ(tab->Status, TStatus::Ocioso);
+    EXPECT_THROW((void)tab->GenVal(QStringLiteral("nao_existe")), EDatabaseError);
 }
 
 TEST_F(TTabelaTest, LerCamposDoDataSetLeavesTheKeysAsTheyWere)

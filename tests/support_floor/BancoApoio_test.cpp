@@ -157,6 +157,25 @@ TEST_F(BancoApoio, ALockIsTakenOnceAndGivenBack)
     EXPECT_TRUE(GarantiaTentar(Tabela(), Um(), OndeUm()));
 }
 
+TEST_F(BancoApoio, EveryLockTakenHasANumberOfItsOwn)
+{
+    EXPECT_EQ(GarantiaNumero(Tabela(), Um()), 0);
+    ASSERT_TRUE(GarantiaTentar(Tabela(), Um(), OndeUm()));
+    const qint64 numero = GarantiaNumero(Tabela(), Um());
+    EXPECT_GT(numero, 0);
+    EXPECT_EQ(GarantiaNumero(QStringLiteral("GRUPOS"), Um()), numero);
+    GarantiaLiberar(Tabela(), Um());
+    EXPECT_EQ(GarantiaNumero(Tabela(), Um()), 0);
+    ASSERT_TRUE(GarantiaTentar(Tabela(), Um(), OndeUm()));
+    EXPECT_GT(GarantiaNumero(Tabela(), Um()), numero);
+    ConexD().SQLConnection = nullptr;
+    EXPECT_EQ(GarantiaNumero(Tabela(), Um()), 0);
+    ConexD().SQLConnection = &banco.Conexao();
+    banco.Conexao().Close();
+    EXPECT_EQ(GarantiaNumero(Tabela(), Um()), 0) << "a closed connection holds nothing";
+    banco.Conexao().Open();
+}
+
 TEST_F(BancoApoio, ALockHeldElsewhereIsRefusedWithItsHolder)
 {
     const auto outra = Outra();
