@@ -17,8 +17,8 @@ void TCheckBoxBasFr::Create(QWidget *owner)
     TDBControlBasFr::Create(owner);
     CheckBox1->setChecked(false);
     CheckBox1->OnMouseDown = [this](QObject *sender, QMouseEvent *) { CheckBox1MouseDown(sender); };
-    // Mouse, space bar and short-cut all press the box; the mouse has been told of by then.
-    Ligar(CheckBox1, &TCheckBox::pressed, this, [this] { CheckBox1MouseDown(CheckBox1); });
+    // Space bar and short-cut press the box, too; after the mouse this asks no more.
+    Ligar(CheckBox1, &TCheckBox::pressed, this, [this] { pedido.Antes(); });
     Ligar(CheckBox1, &TCheckBox::clicked, this, [this] { pedido.Depois(); });
 }
 

@@ -48,8 +48,7 @@ public:
 
 protected:
     void PegarComponentes() override;
-    /** A mouse button went down on the box, or the box was pressed by mouse or keyboard: a click
-     * runs it twice. */
+    /** A mouse button went down on the box: starts an alteration. */
     virtual void CheckBox1MouseDown(QObject *sender);
 
 private:

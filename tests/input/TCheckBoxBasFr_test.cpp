@@ -9,6 +9,21 @@ using namespace ficha::testes;
 namespace
 {
 
+class TContadoFr : public TCheckBoxBasFr
+{
+public:
+    using TCheckBoxBasFr::TCheckBoxBasFr;
+    int descidas = 0;
+
+protected:
+    void CheckBox1MouseDown(QObject *sender) override
+    {
+        ++descidas;
+        EXPECT_EQ(sender, CheckBox1);
+        TCheckBoxBasFr::CheckBox1MouseDown(sender);
+    }
+};
+
 class TCheckBoxBasFrTest : public TEntradaTest
 {
 protected:
@@ -110,6 +125,19 @@ TEST_F(TCheckBoxBasFrTest, TheSpaceBarStartsAnAlterationToo)
     EXPECT_EQ(tela.pedidos, 1);
     EXPECT_FALSE(fr->CheckBox1->isChecked());
     EXPECT_EQ(tabela->Status, TStatus::Alterando);
+}
+
+TEST_F(TCheckBoxBasFrTest, TheHandlerHearsEachMouseButtonOnceAndNoKey)
+{
+    auto *fr = Mostrado<TContadoFr>();
+    Clicar(fr);
+    EXPECT_EQ(fr->descidas, 1);
+    QTest::mouseClick(fr->CheckBox1, Qt::RightButton, {}, QPoint(8, 8));
+    EXPECT_EQ(fr->descidas, 2);
+    EXPECT_TRUE(fr->CheckBox1->isChecked());
+    Teclar(fr->CheckBox1, Qt::Key_Space);
+    EXPECT_EQ(fr->descidas, 2);
+    EXPECT_FALSE(fr->CheckBox1->isChecked());
 }
 
 TEST_F(TCheckBoxBasFrTest, AMouseButtonDownBesideTheCaptionStartsOneWithoutTurning)
