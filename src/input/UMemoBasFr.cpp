@@ -28,11 +28,8 @@ void TMemoBasFr::Create(QWidget *owner)
         Memo1KeyDown(Memo1, tecla, estado);
     });
     AoTeclar(Memo1, [this](QChar &caractere) { Memo1KeyPress(Memo1, caractere); });
-    Ligar(Memo1, &TMemo::textChanged, this, [this] {
-        // The program's text starts the undo history anew: one with a past is the user's.
-        if (std::exchange(teclaMuda, false) || !Memo1->document()->isUndoAvailable())
-            return;
-        if (EditadoPeloUsuario(*this, *Memo1, pedido))
+    Ligar(Memo1, &TMemo::UserChanged, this, [this] {
+        if (!std::exchange(teclaMuda, false) && EditadoPeloUsuario(*this, *Memo1, pedido))
             Memo1->moveCursor(QTextCursor::End);
     });
     Ligar(Memo1, &TMemo::textChanged, this, [this] { Memo1Change(Memo1); });

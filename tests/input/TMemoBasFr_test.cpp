@@ -126,12 +126,31 @@ TEST_F(TMemoBasFrTest, PastingAndDroppingStartTheAlteration)
     EXPECT_TRUE(memo->GetText().contains(QStringLiteral("solto")));
 }
 
+TEST_F(TMemoBasFrTest, CuttingUndoingAndRedoingStartTheAlteration)
+{
+    MontarPreso();
+    memo->selectAll();
+    Teclar(memo, Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(tela.pedidos, 1);
+    EXPECT_EQ(memo->GetText(), QString());
+    tabela->AltFim();
+    Teclar(memo, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(tela.pedidos, 2) << "although nothing is left to be undone";
+    EXPECT_EQ(memo->GetText(), QStringLiteral("memo"));
+    tabela->AltFim();
+    Teclar(memo, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(tela.pedidos, 3);
+    EXPECT_EQ(memo->GetText(), QString());
+}
+
 TEST_F(TMemoBasFrTest, TheProgramNeverStartsAnAlteration)
 {
     MontarPreso();
     fr->SetValor(QStringLiteral("do programa"));
     memo->SetText(QStringLiteral(" outra vez "));
     EXPECT_TRUE(fr->ValorAceitavel());
+    memo->insertPlainText(QStringLiteral("inserido"));
+    memo->appendPlainText(QStringLiteral("acrescentado"));
     fr->Zerar();
     EXPECT_EQ(tela.pedidos, 0);
 }

@@ -2,6 +2,9 @@
 
 #include "support/Widgets.h"
 
+#include <QContextMenuEvent>
+#include <QInputMethodEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTextBlock>
@@ -53,6 +56,105 @@ TEST_F(Memo, AnnouncesEachChangeOnce)
     memo.SetText(QStringLiteral("outro"));
     EXPECT_EQ(memo.toPlainText(), QStringLiteral("outro"));
     EXPECT_EQ(mudou.count(), 4);
+}
+
+TEST_F(Memo, TheUserIsAnnouncedApartAndFirst)
+{
+    QStringList ordem;
+    QObject::connect(&memo, &TMemo::UserChanged,
+                     [&] { ordem << QStringLiteral("user ") + memo.GetText(); });
+    QObject::connect(&memo, &QPlainTextEdit::textChanged,
+                     [&] { ordem << QStringLiteral("text ") + memo.GetText(); });
+    const auto houve = [&](const QString &texto) {
+        EXPECT_EQ(ordem,
+                  (QStringList{QStringLiteral("user ") + texto, QStringLiteral("text ") + texto}));
+        ordem.clear();
+    };
+    QTest::keyClick(&memo, Qt::Key_A);
+    houve(QStringLiteral("a"));
+    QTest::keyClick(&memo, Qt::Key_Return);
+    houve(QStringLiteral("a\r\n"));
+    QTest::keyClick(&memo, Qt::Key_Backspace);
+    houve(QStringLiteral("a"));
+    QTest::keyClick(&memo, Qt::Key_Z, Qt::ControlModifier);
+    houve(QStringLiteral("a\r\n"));
+    QTest::keyClick(&memo, Qt::Key_Y, Qt::ControlModifier);
+    houve(QStringLiteral("a"));
+    ColarTexto(&memo, QStringLiteral("bc"));
+    houve(QStringLiteral("abc"));
+    QInputMethodEvent escrito;
+    escrito.setCommitString(QStringLiteral("d"));
+    QApplication::sendEvent(&memo, &escrito);
+    houve(QStringLiteral("abcd"));
+    memo.selectAll();
+    QTest::keyClick(&memo, Qt::Key_X);
+    houve(QStringLiteral("x"));
+    QTest::keyClick(&memo, Qt::Key_End);
+    QTest::keyClick(&memo, Qt::Key_Delete);
+    EXPECT_EQ(ordem, QStringList()) << "nothing changed";
+
+    const auto programa = [&](const QString &texto) {
+        EXPECT_EQ(ordem, QStringList(QStringLiteral("text ") + texto));
+        ordem.clear();
+    };
+    memo.SetText(QStringLiteral("p"));
+    programa(QStringLiteral("p"));
+    memo.setPlainText(QStringLiteral("q"));
+    programa(QStringLiteral("q"));
+    memo.insertPlainText(QStringLiteral("r"));
+    programa(QStringLiteral("rq"));
+    memo.clear();
+    programa(QString());
+}
+
+TEST_F(Memo, TheMenuIsTheUserToo)
+{
+    TJanela janela;
+    auto *m = new TMemo(&janela);
+    m->resize(200, 100);
+    janela.Abrir();
+    m->SetText(QStringLiteral("abc"));
+    int usuario = 0;
+    QObject::connect(m, &TMemo::UserChanged, [&] { ++usuario; });
+    const auto escolher = [&](const QString &comando) {
+        QContextMenuEvent pede(QContextMenuEvent::Mouse, QPoint(5, 5),
+                               m->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(m->viewport(), &pede);
+        auto *menu = m->findChild<QMenu *>();
+        ASSERT_NE(menu, nullptr);
+        for (QAction *acao : menu->actions()) {
+            if (acao->text().remove(u'&').startsWith(comando))
+                acao->trigger();
+        }
+        delete menu;
+    };
+    m->selectAll();
+    escolher(QStringLiteral("Recortar"));
+    EXPECT_EQ(m->GetText(), QString());
+    EXPECT_EQ(usuario, 1);
+    escolher(QStringLiteral("Colar"));
+    EXPECT_EQ(m->GetText(), QStringLiteral("abc"));
+    EXPECT_EQ(usuario, 2);
+    escolher(QStringLiteral("Desfazer"));
+    EXPECT_EQ(usuario, 3);
+    escolher(QStringLiteral("Refazer"));
+    EXPECT_EQ(usuario, 4);
+    m->selectAll();
+    escolher(QStringLiteral("Excluir"));
+    EXPECT_EQ(m->GetText(), QString());
+    EXPECT_EQ(usuario, 5);
+}
+
+TEST_F(Memo, WhatAHandlerOfTheUsersChangeWritesIsTheProgrammes)
+{
+    int usuario = 0;
+    QObject::connect(&memo, &TMemo::UserChanged, [&] {
+        ++usuario;
+        memo.SetText(QStringLiteral("corrigido"));
+    });
+    QTest::keyClick(&memo, Qt::Key_A);
+    EXPECT_EQ(usuario, 1);
+    EXPECT_EQ(memo.GetText(), QStringLiteral("corrigido"));
 }
 
 TEST_F(Memo, TabLeaves)

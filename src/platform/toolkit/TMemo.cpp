@@ -51,6 +51,8 @@ TMemo::TMemo(QWidget *owner) : QPlainTextEdit(owner)
 {
     setTabChangesFocus(true);
     Ligar(this, &QPlainTextEdit::textChanged, this, [this] {
+        if (doUsuario)
+            Q_EMIT UserChanged();
         if (OnChange)
             OnChange(this);
     });
@@ -73,10 +75,12 @@ void TMemo::SetText(const QString &texto)
     const QString linhas = ParaLinhas(texto);
     if (linhas == toPlainText())
         return;
+    // Also where a handler of the user's input writes.
+    const QScopedValueRollback programa(doUsuario, false);
     {
         // The document announces an emptying and a filling.
         const QSignalBlocker calado(this);
-        setPlainText(linhas);
+        QPlainTextEdit::setPlainText(linhas);
     }
     Q_EMIT textChanged();
 }
@@ -113,7 +117,20 @@ void TMemo::SetFontColor(TColor cor)
     SetCorDoWidget(*this, QPalette::Text, cor);
 }
 
+/** Runs what takes the user's input in. */
+template <typename F>
+void TMemo::PeloUsuario(F &&f)
+{
+    const QScopedValueRollback usuario(doUsuario, true);
+    f();
+}
+
 void TMemo::keyPressEvent(QKeyEvent *evento)
+{
+    PeloUsuario([&] { Teclar(evento); });
+}
+
+void TMemo::Teclar(QKeyEvent *evento)
 {
     const bool quebra = EhQuebra(*evento);
     if (isReadOnly() || (!quebra && !EhTeclaDeTexto(*evento))) {
@@ -142,10 +159,16 @@ void TMemo::inputMethodEvent(QInputMethodEvent *evento)
     QInputMethodEvent passado(evento->preeditString(), evento->attributes());
     if (recusa.isEmpty() && cabe)
         passado.setCommitString(texto, evento->replacementStart(), evento->replacementLength());
-    QPlainTextEdit::inputMethodEvent(&passado);
+    PeloUsuario([&] { QPlainTextEdit::inputMethodEvent(&passado); });
     evento->accept();
     if (!recusa.isEmpty())
         AvisarUsuario(recusa);
+}
+
+void TMemo::mouseMoveEvent(QMouseEvent *evento)
+{
+    // A text that is dragged away to another control leaves the memo here.
+    PeloUsuario([&] { QPlainTextEdit::mouseMoveEvent(evento); });
 }
 
 void TMemo::dropEvent(QDropEvent *evento)
@@ -153,18 +176,18 @@ void TMemo::dropEvent(QDropEvent *evento)
     const QScopedValueRollback solta(soltando, true);
     const bool daqui = evento->source() == this || evento->source() == viewport();
     const QScopedValueRollback movendo(soltandoDaqui, daqui);
-    QPlainTextEdit::dropEvent(evento);
+    PeloUsuario([&] { QPlainTextEdit::dropEvent(evento); });
 }
 
 void TMemo::contextMenuEvent(QContextMenuEvent *evento)
 {
     TComandosDeEdicao c;
-    c.Desfazer = [this] { undo(); };
-    c.Refazer = [this] { redo(); };
-    c.Recortar = [this] { cut(); };
+    c.Desfazer = [this] { PeloUsuario([this] { undo(); }); };
+    c.Refazer = [this] { PeloUsuario([this] { redo(); }); };
+    c.Recortar = [this] { PeloUsuario([this] { cut(); }); };
     c.Copiar = [this] { copy(); };
     c.Colar = [this] { paste(); };
-    c.Excluir = [this] { textCursor().removeSelectedText(); };
+    c.Excluir = [this] { PeloUsuario([this] { textCursor().removeSelectedText(); }); };
     c.SelecionarTudo = [this] { selectAll(); };
     c.PodeDesfazer = document()->isUndoAvailable();
     c.PodeRefazer = document()->isRedoAvailable();
@@ -191,7 +214,7 @@ void TMemo::insertFromMimeData(const QMimeData *dados)
     const QString cortado = soltandoDaqui ? texto : Cortar(texto);
     if (!cortado.isEmpty()) {
         QTextCursor cursor = textCursor();
-        cursor.insertText(cortado);
+        PeloUsuario([&] { cursor.insertText(cortado); });
         setTextCursor(cursor);
         ensureCursorVisible();
     }

@@ -15,7 +15,8 @@ namespace ficha
  * Tab leaves it. Only plain text is pasted. The gate of TCustomEdit holds here too: a character
  * that ISO8859_1 cannot hold is refused with one warning, a paste that has one is refused whole.
  *
- * Every change of the text, the program's too, emits textChanged and calls OnChange once.
+ * Every change of the text, the program's too, emits textChanged and calls OnChange once; the
+ * user's (keys, input methods, pasting, dropping, the menu) emits UserChanged first.
  */
 class TMemo : public QPlainTextEdit
 {
@@ -35,6 +36,9 @@ public:
      * beginning, the undo history starts anew. */
     void SetText(const QString &texto);
     void Clear() { SetText(QString()); }
+    /** The names of QPlainTextEdit, with the meaning of SetText and Clear. */
+    void setPlainText(const QString &texto) { SetText(texto); }
+    void clear() { Clear(); }
     QStringList GetLinhas() const;
     void SetLinhas(const QStringList &linhas);
 
@@ -60,20 +64,30 @@ public:
 
     int Tag = 0;
 
+Q_SIGNALS:
+    /** The user changed the text; the text is the new one already. */
+    void UserChanged();
+
 protected:
     void keyPressEvent(QKeyEvent *evento) override;
     void inputMethodEvent(QInputMethodEvent *evento) override;
+    void mouseMoveEvent(QMouseEvent *evento) override;
     void dropEvent(QDropEvent *evento) override;
     void contextMenuEvent(QContextMenuEvent *evento) override;
     bool canInsertFromMimeData(const QMimeData *dados) const override;
     void insertFromMimeData(const QMimeData *dados) override;
 
 private:
+    template <typename F>
+    void PeloUsuario(F &&f);
+    void Teclar(QKeyEvent *evento);
     int Espaco() const;
     QString Cortar(const QString &texto) const;
     bool Recusar(const QString &texto);
 
     int maxLength = 0;
+    /** The user's input is being taken in; what changes now is the user's. */
+    bool doUsuario = false;
     bool soltando = false;
     bool soltandoDaqui = false;
 };
