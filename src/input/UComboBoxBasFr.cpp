@@ -8,7 +8,6 @@
 #include "platform/toolkit/Teclas.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QScreen>
 #include <QStyle>
@@ -50,11 +49,12 @@ void TComboBoxBasFr::SetFocus()
 void TComboBoxBasFr::Zerar()
 {
     TDBControlBasFr::Zerar();
-    SelecionarItem(ItemDoObjeto(0));
+    ComboBox1->SetItemIndex(ItemDoObjeto(0));
 }
 
 bool TComboBoxBasFr::ValorAceitavel()
 {
+    const QPointer<TComboBoxBasFr> vivo(this);
     bool aceito = TDBControlBasFr::ValorAceitavel();
     if (aceito && !AceitaVazio && ComboBox1->GetItemIndex() < 0) {
         aceito = false;
@@ -64,7 +64,7 @@ bool TComboBoxBasFr::ValorAceitavel()
                           QStringLiteral(" ou clique em Cancelar."),
                       0);
     }
-    if (!aceito)
+    if (!aceito && vivo)
         SetFocus();
     return aceito;
 }
@@ -101,13 +101,6 @@ int TComboBoxBasFr::ItemDoObjeto(std::intptr_t objeto) const
     return ComboBox1->IndexOfObjeto(objeto);
 }
 
-void TComboBoxBasFr::SelecionarItem(int i)
-{
-    ComboBox1->SetItemIndex(i);
-    if (QLineEdit *edit = ComboBox1->lineEdit())
-        edit->home(false);
-}
-
 void TComboBoxBasFr::FrameEnter(QObject *sender)
 {
     TDBControlBasFr::FrameEnter(sender);
@@ -117,14 +110,14 @@ void TComboBoxBasFr::FrameEnter(QObject *sender)
 void TComboBoxBasFr::FrameExit(QObject *sender)
 {
     if (!ComboBox1->GetText().isEmpty())
-        SelecionarItem(ItemDoTexto());
+        ComboBox1->SetItemIndex(ItemDoTexto());
     const QPointer<TComboBoxBasFr> vivo(this);
     TDBControlBasFr::FrameExit(sender);
     if (!vivo)
         return;
     const int i = ComboBox1->GetItemIndex();
     if (i >= 0 && ComboBox1->GetText() != ComboBox1->Item(i))
-        SelecionarItem(i);
+        ComboBox1->SetItemIndex(i);
 }
 
 void TComboBoxBasFr::ComboBox1Change(QObject *)
@@ -164,18 +157,12 @@ void TComboBoxBasFr::PrepararLista()
 void TComboBoxBasFr::AlargarLista()
 {
     QAbstractItemView *lista = ComboBox1->view();
-    QString maior;
-    for (int i = 0; i < ComboBox1->Count(); ++i) {
-        const QString texto = ComboBox1->Item(i);
-        if (texto.size() > maior.size())
-            maior = texto;
-    }
     const int margens = 4 * (lista->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) +
                         lista->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     const int cabe =
         ComboBox1->screen()->availableGeometry().right() - ComboBox1->mapToGlobal(QPoint()).x();
-    lista->setMinimumWidth(
-        std::max(0, std::min(lista->fontMetrics().horizontalAdvance(maior) + margens, cabe)));
+    const int texto = lista->fontMetrics().horizontalAdvance(ComboBox1->ItemMaisLongo());
+    lista->setMinimumWidth(std::max(0, std::min(texto + margens, cabe)));
 }
 
 /** As Tab does it: the text is selected, so that the next key types over it. A click that brought

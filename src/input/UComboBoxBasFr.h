@@ -55,9 +55,6 @@ protected:
     void PegarComponentes() override;
     /** The first item with this object; -1 when there is none. */
     virtual int ItemDoObjeto(std::intptr_t objeto) const;
-    /** Selects from the program, an index outside selects nothing; a long text is shown from its
-     * beginning. */
-    void SelecionarItem(int i);
     /** Refreshes the frame and hands the focus on to the list. */
     void FrameEnter(QObject *sender) override;
     /**

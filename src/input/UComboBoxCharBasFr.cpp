@@ -22,7 +22,7 @@ Variant TComboBoxCharBasFr::GetValor() const
 void TComboBoxCharBasFr::SetValor(const Variant &valor)
 {
     TComboBoxBasFr::SetValor(valor);
-    SelecionarItem(ItemDoCaractere(valor));
+    ComboBox1->SetItemIndex(ItemDoCaractere(valor));
 }
 
 QString TComboBoxCharBasFr::SQLString() const

@@ -49,13 +49,13 @@ void TComboBoxCodBasFr::SetValor(const Variant &valor)
 {
     TComboBoxBasFr::SetValor(valor);
     if (valor.EhNulo()) {
-        SelecionarItem(-1);
+        ComboBox1->SetItemIndex(-1);
         return;
     }
     const int cod = CodigoDe(valor);
     if (!TemCod(cod) && !SQLQuery1->GetSQL().isEmpty())
         PreencherComboBox1();
-    SelecionarItem(ItemDoObjeto(cod));
+    ComboBox1->SetItemIndex(ItemDoObjeto(cod));
 }
 
 QString TComboBoxCodBasFr::SQLString() const
@@ -85,7 +85,7 @@ void TComboBoxCodBasFr::PreencherComboBox1()
         novos.push_back(
             {SQLQuery1->Fields(1)->AsString().trimmed(), SQLQuery1->Fields(0)->AsInteger()});
     itens->Trocar(std::move(novos));
-    SelecionarItem(-1);
+    ComboBox1->SetItemIndex(-1);
 }
 
 bool TComboBoxCodBasFr::TemCod(int cod) const
@@ -154,7 +154,7 @@ void TComboBoxCodBasFr::UsarListaLonga()
     itens = new TItensDoCombo(ComboBox1);
     itens->Trocar(std::move(atuais));
     ComboBox1->setModel(itens);
-    SelecionarItem(escolhido);
+    ComboBox1->SetItemIndex(escolhido);
 }
 
 } // namespace ficha

@@ -558,6 +558,16 @@ TEST_F(TComboBoxBasFrTest, AFrameDestroyedWithItsListOpenGoesQuietly)
     EXPECT_EQ(avisos, QStringList());
 }
 
+TEST_F(TComboBoxBasFrTest, AFrameDestroyedInsideItsOwnRefusalGoesQuietly)
+{
+    auto *fr = Cores();
+    const QPointer<TComboBoxBasFr> vivo = fr;
+    aoAvisar = [&] { delete fr; };
+    EXPECT_FALSE(fr->ValorAceitavel());
+    EXPECT_TRUE(vivo.isNull());
+    EXPECT_EQ(avisos, QStringList{Obrigatorio});
+}
+
 TEST_F(TComboBoxBasFrTest, AFrameDestroyedByTheAlterationThatItAskedForGoesQuietly)
 {
     AbrirTabela();

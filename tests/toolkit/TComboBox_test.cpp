@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QStringListModel>
 #include <QWheelEvent>
 
 using namespace ficha;
@@ -380,6 +381,86 @@ TEST_F(Combo, PropertiesForLayouts)
     EXPECT_EQ(outro.GetText(), QStringLiteral("wxy"));
     EXPECT_STREQ(outro.metaObject()->userProperty().name(), "text");
     EXPECT_EQ(outro.property("comboStyle").toInt(), int(TComboBox::csDropDown));
+}
+
+TEST_F(Combo, ALongTextIsShownFromItsBeginning)
+{
+    const QString longo = QStringLiteral("Departamento de compras e de vendas, matriz");
+    const QString outro = QStringLiteral("Departamento de pessoal e de cadastros, filial");
+    combo->AddItem(longo);
+    combo->AddItem(outro);
+    auto *depois = new QLineEdit(&janela);
+    depois->move(0, 100);
+    Abrir();
+    const auto inicio = [this] { return combo->lineEdit()->cursorPosition() == 0; };
+    combo->SetItemIndex(3);
+    EXPECT_TRUE(inicio()) << "an item";
+    combo->SetText(longo + u'x');
+    EXPECT_TRUE(inicio()) << "a text of no item";
+    combo->SetText(outro);
+    EXPECT_TRUE(inicio()) << "the text of an item";
+
+    QTest::keyClick(combo, Qt::Key_Up);
+    EXPECT_EQ(combo->GetText(), longo);
+    EXPECT_TRUE(inicio()) << "picked with an arrow key";
+    EXPECT_EQ(combo->lineEdit()->selectedText(), longo);
+    combo->showPopup();
+    QTest::keyClick(combo->view(), Qt::Key_Down);
+    QTest::keyClick(combo->view(), Qt::Key_Return);
+    EXPECT_EQ(combo->GetText(), outro);
+    EXPECT_TRUE(inicio()) << "picked from the list";
+    QTest::keyClick(combo, Qt::Key_C);
+    EXPECT_EQ(combo->GetText(), QStringLiteral("Campinas")) << "the next key types over it";
+
+    combo->SetText(QString());
+    QTest::keyClicks(combo, outro);
+    EXPECT_FALSE(inicio()) << "not under the typing user";
+    depois->setFocus();
+    EXPECT_EQ(combo->GetText(), outro);
+    EXPECT_TRUE(inicio()) << "left";
+}
+
+TEST_F(Combo, TheSearchFollowsEveryChangeOfTheList)
+{
+    EXPECT_EQ(combo->IndexOf(QStringLiteral("Sumaré")), -1);
+    combo->AddItem(QStringLiteral("Sumaré"));
+    EXPECT_EQ(combo->IndexOf(QStringLiteral("Sumaré")), 3);
+    combo->insertItem(0, QStringLiteral("Sumaré"));
+    EXPECT_EQ(combo->IndexOf(QStringLiteral("SUMARÉ")), 0);
+    combo->setItemText(0, QStringLiteral("Sorocaba"));
+    EXPECT_EQ(combo->IndexOf(QStringLiteral("sumaré")), 4);
+    combo->removeItem(4);
+    EXPECT_EQ(combo->IndexOf(QStringLiteral("sumaré")), -1);
+    combo->SetItems({QStringLiteral("b"), QStringLiteral("a")});
+    EXPECT_EQ(combo->IndexOf(QStringLiteral("a")), 1);
+    combo->model()->sort(0);
+    EXPECT_EQ(combo->IndexOf(QStringLiteral("a")), 0);
+    EXPECT_EQ(combo->ItemMaisLongo(), QStringLiteral("a"));
+    QStringListModel outros({QStringLiteral("um"), QStringLiteral("dois")});
+    combo->setModel(&outros);
+    EXPECT_EQ(combo->IndexOf(QStringLiteral("dois")), 1);
+    EXPECT_EQ(combo->ItemMaisLongo(), QStringLiteral("dois"));
+    outros.setStringList({QStringLiteral("três"), QStringLiteral("dois"), QStringLiteral("um")});
+    EXPECT_EQ(combo->IndexOf(QStringLiteral("um")), 2);
+}
+
+TEST_F(Combo, TheSearchOfAKeyIsThatOfTheWholeText)
+{
+    combo->SetItems({QStringLiteral("ab"), QStringLiteral("abc"), QStringLiteral("b"),
+                     QStringLiteral("ABD"), QStringLiteral("a")});
+    Abrir();
+    QTest::keyClicks(combo, QStringLiteral("a"));
+    EXPECT_EQ(combo->GetItemIndex(), 0);
+    QTest::keyClicks(combo, QStringLiteral("bd"));
+    EXPECT_EQ(combo->GetItemIndex(), 3) << "further down than the last find";
+    QTest::keyClicks(combo, QStringLiteral("x"));
+    EXPECT_EQ(combo->GetItemIndex(), -1);
+    QTest::keyClick(combo, Qt::Key_Backspace);
+    EXPECT_EQ(combo->GetItemIndex(), 3);
+    QTest::keyClick(combo, Qt::Key_Backspace);
+    EXPECT_EQ(combo->GetItemIndex(), 0) << "a shorter text searches from the top";
+    QTest::keyClick(combo, Qt::Key_Backspace);
+    EXPECT_EQ(combo->GetItemIndex(), 4) << "a whole item, not one that begins so";
 }
 
 TEST_F(Combo, HandlerMayDestroyTheCombo)

@@ -13,6 +13,8 @@
 #include <QPointer>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 namespace ficha
 {
 
@@ -60,9 +62,13 @@ TComboBox::TComboBox(QWidget *owner) : QComboBox(owner)
     setMinimumContentsLength(1);
     connect(this, &QComboBox::currentIndexChanged, this, [this] { indiceVelho = true; });
     connect(this, &QComboBox::activated, this, [this] {
+        // Selected from its end, so that the beginning is in view.
+        if (isEditable())
+            lineEdit()->setSelection(int(currentText().size()), -int(currentText().size()));
         if (escopos == 0)
             AnunciarSeMudou();
     });
+    AcompanharModelo();
     MontarEdit();
 }
 
@@ -73,7 +79,9 @@ QString TComboBox::GetText() const
 
 void TComboBox::SetText(const QString &texto)
 {
-    const int exato = findText(texto, Qt::MatchFixedString | Qt::MatchCaseSensitive);
+    const auto &todos = Textos();
+    const auto igual = std::find(todos.begin(), todos.end(), texto);
+    const int exato = igual == todos.end() ? -1 : int(igual - todos.begin());
     if (!isEditable()) {
         SetItemIndex(exato >= 0 ? exato : IndexOf(texto));
     } else if (exato >= 0) {
@@ -81,6 +89,7 @@ void TComboBox::SetText(const QString &texto)
     } else {
         setCurrentIndex(-1);
         setEditText(texto);
+        MostrarInicio();
         indiceVelho = true;
     }
 }
@@ -106,6 +115,7 @@ void TComboBox::SetItemIndex(int i)
     // The list's index does not move when only the typed text had left the item.
     if (isEditable() && currentText() != itemText(valido))
         setEditText(itemText(valido));
+    MostrarInicio();
     indiceVelho = true;
 }
 
@@ -148,6 +158,15 @@ void TComboBox::Clear()
     indiceVelho = true;
 }
 
+QString TComboBox::ItemMaisLongo() const
+{
+    const auto &todos = Textos();
+    const auto maior =
+        std::max_element(todos.begin(), todos.end(),
+                         [](const QString &a, const QString &b) { return a.size() < b.size(); });
+    return maior == todos.end() ? QString() : *maior;
+}
+
 std::intptr_t TComboBox::GetObjeto(int i) const
 {
     return std::intptr_t(itemData(i).toLongLong());
@@ -160,8 +179,12 @@ void TComboBox::SetObjeto(int i, std::intptr_t objeto)
 
 int TComboBox::IndexOf(const QString &texto) const
 {
-    for (int i = 0; i < count(); ++i) {
-        if (itemText(i).compare(texto, Qt::CaseInsensitive) == 0)
+    // What equals a text begins with it.
+    const int primeiro = PrimeiroComecadoPor(texto);
+    const auto &todos = Textos();
+    for (int i = primeiro; i >= 0 && i < int(todos.size()); ++i) {
+        const QString &item = todos[std::size_t(i)];
+        if (item.size() == texto.size() && item.compare(texto, Qt::CaseInsensitive) == 0)
             return i;
     }
     return -1;
@@ -237,6 +260,12 @@ void TComboBox::SelectAll()
         lineEdit()->selectAll();
 }
 
+void TComboBox::setModel(QAbstractItemModel *novo)
+{
+    QComboBox::setModel(novo);
+    AcompanharModelo();
+}
+
 void TComboBox::showPopup()
 {
     const QPointer<TComboBox> vivo(this);
@@ -299,9 +328,15 @@ void TComboBox::focusOutEvent(QFocusEvent *evento)
 {
     // On leaving, the list moves to the item of the text; the user changed nothing by that. In the
     // middle of a key the focus only goes to the list, and the key's change is still to be told.
-    if (escopos == 0)
+    const bool saindo = escopos == 0;
+    if (saindo)
         anunciado = Estado();
+    const QPointer<TComboBox> vivo(this);
     QComboBox::focusOutEvent(evento);
+    const bool volta =
+        evento->reason() == Qt::ActiveWindowFocusReason || evento->reason() == Qt::PopupFocusReason;
+    if (vivo && saindo && !volta && !DroppedDown())
+        MostrarInicio();
 }
 
 void TComboBox::MontarEdit()
@@ -346,7 +381,7 @@ void TComboBox::Digitado()
     if (autoCloseUp && DroppedDown() && !lineEdit()->hasSelectedText()) {
         const int unico = PrimeiroComecadoPor(currentText());
         if (unico >= 0 && itemText(unico).size() == currentText().size() &&
-            PrimeiroComecadoPor(currentText(), unico + 1) < 0)
+            ComecadoPor(currentText(), unico + 1) < 0)
             hidePopup();
     }
 }
@@ -368,11 +403,64 @@ void TComboBox::Completar()
         lineEdit()->end(false);
 }
 
-int TComboBox::PrimeiroComecadoPor(const QString &texto, int desde) const
+void TComboBox::MostrarInicio()
 {
-    for (int i = desde; i < count(); ++i) {
-        if (itemText(i).startsWith(texto, Qt::CaseInsensitive))
-            return i;
+    if (isEditable())
+        lineEdit()->home(false);
+}
+
+/** Every change of the list makes what was read of it old. */
+void TComboBox::AcompanharModelo()
+{
+    const auto esquecer = [this] {
+        lidosVelhos = true;
+        indiceVelho = true;
+        busca.reset();
+    };
+    for (const QMetaObject::Connection &ligacao : doModelo)
+        disconnect(ligacao);
+    const QAbstractItemModel *m = model();
+    doModelo = {connect(m, &QAbstractItemModel::dataChanged, this, esquecer),
+                connect(m, &QAbstractItemModel::rowsInserted, this, esquecer),
+                connect(m, &QAbstractItemModel::rowsRemoved, this, esquecer),
+                connect(m, &QAbstractItemModel::rowsMoved, this, esquecer),
+                connect(m, &QAbstractItemModel::layoutChanged, this, esquecer),
+                connect(m, &QAbstractItemModel::modelReset, this, esquecer)};
+    esquecer();
+}
+
+const std::vector<QString> &TComboBox::Textos() const
+{
+    // A listener that hears of a change before this object does must not see the old ones.
+    if (lidosVelhos || int(lidos.size()) != count()) {
+        lidos.clear();
+        lidos.reserve(std::size_t(count()));
+        for (int i = 0; i < count(); ++i)
+            lidos.push_back(itemText(i));
+        lidosVelhos = false;
+        busca.reset();
+    }
+    return lidos;
+}
+
+/** The first item that begins with a text, letter case aside; -1 for none. A text that continues
+ * the last one cannot stand before that one's item, nor anywhere where that one had none. */
+int TComboBox::PrimeiroComecadoPor(const QString &texto) const
+{
+    (void)Textos();
+    const bool continua = busca && texto.startsWith(busca->Texto, Qt::CaseInsensitive);
+    const int achado =
+        continua && busca->Achado < 0 ? -1 : ComecadoPor(texto, continua ? busca->Achado : 0);
+    busca = TBusca{texto, achado};
+    return achado;
+}
+
+int TComboBox::ComecadoPor(const QString &texto, int desde) const
+{
+    const auto &todos = Textos();
+    for (std::size_t i = std::size_t(desde); i < todos.size(); ++i) {
+        if (todos[i].startsWith(texto, Qt::CaseInsensitive))
+            return int(i);
     }
     return -1;
 }

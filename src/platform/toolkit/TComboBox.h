@@ -5,8 +5,11 @@
 #include <QComboBox>
 #include <QStringList>
 
+#include <array>
 #include <cstdint>
 #include <functional>
+#include <optional>
+#include <vector>
 
 namespace ficha
 {
@@ -25,6 +28,12 @@ class TComboLineEdit;
  * Only the user's typing and picking announces (OnChange and UserChanged, once per key or pick,
  * and only when text or item changed); the program's writing never does. The wheel over the
  * closed list never changes the value. The edit has the gate of TCustomEdit.
+ *
+ * A text longer than the edit is shown from its beginning: when the program writes it, when the
+ * user picks it (all selected, so that the next key types over it) and after leaving.
+ *
+ * Made for lists of a hundred thousand items: their texts are read once after each change of the
+ * list, and a key searches on from where the last one found something.
  */
 class TComboBox : public QComboBox
 {
@@ -69,6 +78,8 @@ public:
     void Clear();
     /** The text of an item; empty for an index outside. */
     QString Item(int i) const { return itemText(i); }
+    /** The text with the most characters; empty without items. */
+    QString ItemMaisLongo() const;
     /** The integer of an item; 0 for an index outside. */
     std::intptr_t GetObjeto(int i) const;
     void SetObjeto(int i, std::intptr_t objeto);
@@ -106,6 +117,7 @@ public:
     void SetDroppedDown(bool aberta);
     void SelectAll();
 
+    void setModel(QAbstractItemModel *novo) override;
     /** Calls OnDropDown, then opens the list. */
     void showPopup() override;
     void hidePopup() override;
@@ -144,9 +156,24 @@ private:
     void AnunciarSeMudou();
     void Digitado();
     void Completar();
-    int PrimeiroComecadoPor(const QString &texto, int desde = 0) const;
+    void MostrarInicio();
+    void AcompanharModelo();
+    const std::vector<QString> &Textos() const;
+    int PrimeiroComecadoPor(const QString &texto) const;
+    int ComecadoPor(const QString &texto, int desde) const;
     void AcompanharLista();
     bool TeclaNaLista(QKeyEvent *evento);
+
+    struct TBusca {
+        QString Texto;
+        int Achado = -1;
+    };
+
+    /** The items' texts, and the last search among them; none after the list changed. */
+    mutable std::vector<QString> lidos;
+    mutable bool lidosVelhos = true;
+    mutable std::optional<TBusca> busca;
+    std::array<QMetaObject::Connection, 6> doModelo;
 
     TEstado anunciado;
     mutable int indice = -1;
