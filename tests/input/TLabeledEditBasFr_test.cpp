@@ -448,6 +448,31 @@ TEST_F(TLabeledEditBasFrTest, ACharacterThatTheDatabaseCannotHoldIsRefused)
     EXPECT_EQ(avisos.size(), 2);
 }
 
+TEST_F(TLabeledEditBasFrTest, ARefusedCharacterIsToldInTheBoxOfAllOtherWarnings)
+{
+    Montar();
+    Servicos().MensagemAviso = nullptr;
+    edit->setFocus();
+    QStringList caixas;
+    QTimer fechador;
+    QObject::connect(&fechador, &QTimer::timeout, [&] {
+        if (auto *caixa = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            caixas << caixa->windowTitle() + u'|' + caixa->text() + u'|' +
+                          caixa->informativeText() + u'|' + caixa->buttons().constFirst()->text();
+            caixa->close();
+        }
+    });
+    fechador.start(10);
+    Teclar(edit, QChar(0x20AC));
+    EXPECT_EQ(caixas,
+              QStringList{QStringLiteral("Aviso|O caractere \"€\" não pode ser gravado no banco de "
+                                         "dados e foi recusado.|Use apenas letras, números e "
+                                         "sinais do teclado.|OK")});
+    EXPECT_EQ(edit->text(), QString());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&tela));
+    EXPECT_EQ(Foco(), edit);
+}
+
 TEST_F(TLabeledEditBasFrTest, TheFrameMayBeDestroyedInsideItsWarning)
 {
     Montar();

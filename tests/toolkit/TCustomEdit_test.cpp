@@ -325,3 +325,19 @@ TEST_F(Edit, BurstOfKeysLosesNone)
     QTest::keyClicks(&edit, tudo);
     EXPECT_EQ(edit.text(), tudo);
 }
+
+TEST(EditAlone, WithoutTheSupportFloorARefusalIsALogLine)
+{
+    static QStringList linhas;
+    linhas.clear();
+    TServicosGuarda guarda;
+    Servicos().MensagemAviso = nullptr;
+    TCustomEdit edit;
+    const auto antes = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &texto) { linhas << texto; });
+    Compor(&edit, QStringLiteral("€"));
+    qInstallMessageHandler(antes);
+    EXPECT_EQ(edit.text(), QString());
+    ASSERT_EQ(linhas.size(), 1);
+    EXPECT_TRUE(linhas.constFirst().startsWith(QStringLiteral("ficha: Aviso: O caractere")));
+}

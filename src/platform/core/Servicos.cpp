@@ -10,7 +10,8 @@ namespace ficha
 namespace
 {
 void (*reportarPadrao)(const QString &) = nullptr;
-}
+void (*avisarPadrao)(const QString &) = nullptr;
+} // namespace
 
 TServicos &Servicos()
 {
@@ -52,6 +53,19 @@ void ReportarErro(std::exception_ptr erro) noexcept
 void SetReportarErroPadrao(void (*reportar)(const QString &))
 {
     reportarPadrao = reportar;
+}
+
+void MensagemAvisoPadrao(const QString &texto)
+{
+    if (avisarPadrao)
+        avisarPadrao(texto);
+    else
+        qWarning().noquote() << "ficha: Aviso:" << texto;
+}
+
+void SetMensagemAvisoPadrao(void (*mostrar)(const QString &))
+{
+    avisarPadrao = mostrar;
 }
 
 } // namespace ficha

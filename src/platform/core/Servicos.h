@@ -62,4 +62,12 @@ QString TextoDoErro(std::exception_ptr erro);
 /** The support floor installs how an error is shown when the host has no report of its own. */
 void SetReportarErroPadrao(void (*reportar)(const QString &texto));
 
+/**
+ * A warning without a host's own MensagemAviso: the box that the support floor installed, so that
+ * the floors below it show the same one; a log line where that floor is not linked in.
+ */
+void MensagemAvisoPadrao(const QString &texto);
+/** The support floor installs its box. */
+void SetMensagemAvisoPadrao(void (*mostrar)(const QString &texto));
+
 } // namespace ficha

@@ -188,8 +188,17 @@ void MostrarErro(const QString &texto)
     });
 }
 
+void MostrarAviso(const QString &texto)
+{
+    Mostrar(QMessageBox::Warning, QStringLiteral("Aviso"), texto);
+}
+
 /** Installed as soon as this floor is part of the program. */
-[[maybe_unused]] const bool instalado = (SetReportarErroPadrao(MostrarErro), true);
+[[maybe_unused]] const bool instalado = [] {
+    SetReportarErroPadrao(MostrarErro);
+    SetMensagemAvisoPadrao(MostrarAviso);
+    return true;
+}();
 
 } // namespace
 
@@ -198,7 +207,7 @@ void MensagemAviso(const QString &texto, int opcao)
     if (Servicos().MensagemAviso)
         Servicos().MensagemAviso(texto, opcao);
     else
-        Mostrar(QMessageBox::Warning, QStringLiteral("Aviso"), texto);
+        MostrarAviso(texto);
 }
 
 void MensagemErro(const QString &texto, int)

@@ -6,8 +6,8 @@ namespace ficha
 {
 
 /**
- * Tells the user why an input was refused: the host's MensagemAviso where one is installed, else a
- * plain message box. Modal; what the host's service raises goes to the error report.
+ * Tells the user why an input was refused: the host's MensagemAviso where one is installed, else
+ * the library's own warning box. Modal; what the host's service raises goes to the error report.
  */
 void AvisarUsuario(const QString &texto);
 
