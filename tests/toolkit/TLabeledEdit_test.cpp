@@ -81,6 +81,31 @@ TEST_F(Rotulado, LabelWithoutRoomStartsAtTheTopEdge)
     EXPECT_EQ(edit->EditLabel->y(), 0);
 }
 
+TEST_F(Rotulado, InTwelvePixelsTheCaptionFitsAboveTheEditWithoutLosingInk)
+{
+    edit->SetCaption(QStringLiteral("ÁÇÊgjpqy|;()"));
+    janela.Abrir();
+    const auto tinta = [this] {
+        const QImage img = edit->EditLabel->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        int escuros = 0;
+        for (int y = 0; y < img.height(); ++y) {
+            for (int x = 0; x < img.width(); ++x)
+                escuros += qGray(img.pixel(x, y)) < 128 ? 1 : 0;
+        }
+        return escuros;
+    };
+    const int inteira = tinta();
+    EXPECT_GT(inteira, 50);
+    edit->move(0, 12);
+    EXPECT_EQ(edit->EditLabel->y(), 0);
+    EXPECT_EQ(edit->EditLabel->geometry().bottom() + 1, edit->y()) << "no pixel under the edit";
+    EXPECT_EQ(tinta(), inteira);
+    edit->move(0, 13);
+    EXPECT_EQ(edit->EditLabel->geometry().bottom() + 1, 13);
+    edit->move(0, 40);
+    EXPECT_EQ(edit->EditLabel->geometry().bottom() + 1, 39) << "and the distance comes back";
+}
+
 TEST_F(Rotulado, EmptyCaptionShowsNoLabel)
 {
     auto *sem = new TLabeledEdit(&janela);

@@ -38,7 +38,11 @@ void TBoundLabel::Posicionar()
     if (!controle || controle->isWindow())
         return;
     adjustSize();
-    move(controle->x(), std::max(0, controle->y() - espaco - height()));
+    // Where the room is short, the blank rows go first: the letters need the font's height only.
+    const int sala = controle->y() - espaco;
+    if (sala < height())
+        resize(width(), std::max(std::min(height(), sala + espaco), fontMetrics().height()));
+    move(controle->x(), std::max(0, sala - height()));
 }
 
 bool TBoundLabel::eventFilter(QObject *alvo, QEvent *evento)

@@ -11,7 +11,8 @@ namespace ficha
  * the edit's moves, sizes, visibility, enabled state and parent.
  *
  * The edit makes it and destroys it. While the caption is empty it is hidden. Where the edit leaves
- * too little room above itself, the label starts at the parent's top edge. It is the edit's buddy:
+ * too little room above itself, the label starts at the parent's top edge, does without its
+ * distance to the edit and is no higher than its letters. It is the edit's buddy:
  * an "&" before a letter makes that letter a shortcut to the edit, and its text is the edit's
  * accessible name.
  */
