@@ -172,6 +172,21 @@ TEST_F(TRadioGroupBasFrTest, TabEntersAtTheSelectedOptionAndTheFrameIsRefreshed)
     EXPECT_EQ(Foco(), depois);
 }
 
+TEST_F(TRadioGroupBasFrTest, OptionsThatTheScreenBringsLateKeepThePlaceOfTheFrameInTheTabOrder)
+{
+    auto *fr = Mostrado<TContadoFr>();
+    fr->RadioGroup1->SetItems({QStringLiteral("um"), QStringLiteral("dois")});
+    fr->RadioGroup1->SetItemIndex(1);
+    Teclar(Foco(), Qt::Key_Tab);
+    EXPECT_EQ(Foco(), fr->RadioGroup1->Botao(1));
+    Teclar(Foco(), Qt::Key_Tab);
+    EXPECT_EQ(Foco(), depois);
+    Teclar(Foco(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(Foco(), fr->RadioGroup1->Botao(1));
+    Teclar(Foco(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(Foco(), antes);
+}
+
 TEST_F(TRadioGroupBasFrTest, TheControlOfTheSelectedOptionIsShownAndTheOthersHidden)
 {
     auto *fr = ComTres();

@@ -180,3 +180,34 @@ TEST_F(Radio, NewItemsKeepTheIndexWhereItExists)
     EXPECT_EQ(grupo->GetItemIndex(), -1);
     EXPECT_EQ(cliques, 0);
 }
+
+TEST_F(Radio, OptionsThatComeLateStandInTheTabOrderWhereTheGroupStands)
+{
+    auto *antes = new QLineEdit(&janela);
+    auto *tarde = new TRadioGroup(&janela);
+    auto *depois = new QLineEdit(&janela);
+    tarde->setGeometry(230, 0, 100, 100);
+    antes->move(0, 200);
+    depois->move(0, 240);
+    tarde->SetItems({QStringLiteral("a"), QStringLiteral("b")});
+    tarde->AddItem(QStringLiteral("c"));
+    tarde->SetItems({QStringLiteral("x"), QStringLiteral("y")});
+    tarde->AddItem(QStringLiteral("z"));
+    janela.Abrir();
+    const auto tab = [](Qt::Key tecla = Qt::Key_Tab) {
+        QTest::keyClick(QApplication::focusWidget(), tecla);
+    };
+    for (const int escolhido : {-1, 0, 1, 2}) {
+        tarde->SetItemIndex(escolhido);
+        QWidget *opcao = tarde->Botao(std::max(0, escolhido));
+        antes->setFocus();
+        tab();
+        EXPECT_EQ(QApplication::focusWidget(), opcao) << escolhido;
+        tab();
+        EXPECT_EQ(QApplication::focusWidget(), depois) << escolhido;
+        tab(Qt::Key_Backtab);
+        EXPECT_EQ(QApplication::focusWidget(), opcao) << escolhido;
+        tab(Qt::Key_Backtab);
+        EXPECT_EQ(QApplication::focusWidget(), antes) << escolhido;
+    }
+}

@@ -111,6 +111,7 @@ QRadioButton *TRadioGroup::Botao(int i) const
 QRadioButton *TRadioGroup::NovoBotao(const QString &texto)
 {
     auto *botao = new QRadioButton(texto, this);
+    Encadear(botao);
     grupo->addButton(botao);
     Ligar(botao, &QRadioButton::toggled, this, [this, botao] {
         if (botao->isChecked())
@@ -119,6 +120,20 @@ QRadioButton *TRadioGroup::NovoBotao(const QString &texto)
     if (isVisible())
         botao->show();
     return botao;
+}
+
+/** Options often come after the other controls of the window: Tab must still find them where the
+ * group stands. */
+void TRadioGroup::Encadear(QRadioButton *botao)
+{
+    if (!itens.empty()) {
+        setTabOrder(itens.back().Botao, botao);
+        return;
+    }
+    // The toolkit orders only what can have the focus.
+    setFocusPolicy(Qt::TabFocus);
+    setTabOrder(this, botao);
+    setFocusPolicy(Qt::NoFocus);
 }
 
 /** Not destroyed at once: it may be the button whose click brings the new items. */

@@ -77,6 +77,7 @@ private:
     };
     bool Existe(int i) const { return i >= 0 && i < Count(); }
     QRadioButton *NovoBotao(const QString &texto);
+    void Encadear(QRadioButton *botao);
     void Descartar(QRadioButton *botao);
     void Arrumar();
     void Marcar(int i);
