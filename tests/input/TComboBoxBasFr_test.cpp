@@ -218,6 +218,17 @@ TEST_F(TComboBoxBasFrTest, ARefusalAskedByTheScreenFocusesTheListToo)
     EXPECT_EQ(avisos, QStringList{Obrigatorio});
 }
 
+TEST_F(TComboBoxBasFrTest, ATextWithoutAnItemIsNoChoice)
+{
+    auto *fr = Cores();
+    fr->ComboBox1->SetText(QStringLiteral("Cinza"));
+    EXPECT_FALSE(fr->ValorAceitavel());
+    EXPECT_EQ(avisos, QStringList{Obrigatorio});
+    EXPECT_EQ(fr->ComboBox1->GetText(), QStringLiteral("Cinza")) << "only leaving empties it";
+    fr->ComboBox1->SetText(QStringLiteral("azul"));
+    EXPECT_TRUE(fr->ValorAceitavel());
+}
+
 TEST_F(TComboBoxBasFrTest, TypingATextThatIsNoItemAndLeavingEmptiesIt)
 {
     auto *fr = Cores();
