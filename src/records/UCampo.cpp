@@ -56,7 +56,7 @@ bool TCampo::IsNull() const
 int TCampo::AsInteger() const
 {
     if (ColunaTexto())
-        return StrToIntStr(Valor.AsString()).toInt();
+        return Variant(StrToIntStr(Valor.AsString())).AsInteger();
     return ColunaNumero() ? Valor.AsInteger() : 0;
 }
 

@@ -372,6 +372,8 @@ TEST_F(TCampoTest, AsIntegerOfATextThatIsNoNumberIsZero)
     EXPECT_EQ(nome->AsInteger(), 0);
     nome->SetValor(QStringLiteral("-12.345-6"));
     EXPECT_EQ(nome->AsInteger(), -123456);
+    nome->SetValor(QStringLiteral("7891000315507"));
+    EXPECT_THROW((void)nome->AsInteger(), EVariantError) << "never another number";
 }
 
 } // namespace
