@@ -175,6 +175,23 @@ void Andar(QWidget *controle)
         foco->alvo = nullptr;
 }
 
+/** Whether the focus, on its way from one control to another, was given back: it stands where it
+ * came from, or beside it in a container that does not hold the other one. An enter handler that
+ * hands it on inside the entered frame gives nothing back. */
+bool Voltou(const QWidget *antes, const QWidget *agora, const QWidget *ficou)
+{
+    if (!ficou || ficou == agora)
+        return false;
+    if (ficou == antes)
+        return true;
+    for (const QWidget *w = antes; w && !w->isWindow() && !Contem(w, agora);
+         w = w->parentWidget()) {
+        if (Contem(w, ficou))
+            return true;
+    }
+    return false;
+}
+
 /**
  * Swallows the press of a click that an exit has undone. Qt gives the focus before it delivers the
  * press; when an exit took the focus back meanwhile, the press would still reach the control that
@@ -221,13 +238,13 @@ void LigarAoPrograma()
     ligado = qApp;
     auto *cliques = new TCliqueDesfeito;
     cliques->setParent(qApp);
-    QObject::connect(qApp, &QApplication::focusChanged, cliques, [cliques] {
+    QObject::connect(qApp, &QApplication::focusChanged, cliques, [cliques](QWidget *de) {
+        const QPointer<QWidget> antes = de;
         const QPointer<QWidget> agora = QApplication::focusWidget();
         if (!agora)
             return;
         Andar(agora);
-        const QWidget *ficou = agora ? JanelaDe(agora)->focusWidget() : nullptr;
-        if (agora && ficou != agora)
+        if (antes && agora && Voltou(antes, agora, JanelaDe(agora)->focusWidget()))
             cliques->Preparar(agora);
     });
 }
