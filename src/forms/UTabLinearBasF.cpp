@@ -20,6 +20,7 @@
 #include "platform/toolkit/TStringGrid.h"
 #include "platform/toolkit/TToolBar.h"
 
+#include <QApplication>
 #include <QDebug>
 #include <QLabel>
 #include <QMouseEvent>
@@ -150,9 +151,9 @@ void TTabLinearBasF::Reler(int cod)
     if (cod == 0)
         cod = CodigoAtual();
     ReabrirLista();
-    PreencherStringGrid();
     // Only the record on which the walk ends is shown; showing it once is showing it.
     const QScopedValueRollback<bool> controles(Tab->AtualizarControles, false);
+    PreencherStringGrid();
     IrParaCodigo(cod);
     Tab->Campos->PreencherControls();
 }
@@ -183,6 +184,7 @@ void TTabLinearBasF::MoverParaLinha(int linha)
     if (!Navegando())
         return;
     const TFlagGuarda ligado(this, &TTabLinearBasF::AtualizarLigado, false);
+    RelerSeFechada();
     Tab->SetRecno(linha);
 }
 
@@ -327,6 +329,10 @@ void TTabLinearBasF::FormClose(QObject *sender, TCloseAction &acao)
 {
     TTabBasF::FormClose(sender, acao);
     fechou = true;
+    // An edit that the user has agreed to abandon is not asked for its value on the way out.
+    QWidget *foco = QApplication::focusWidget();
+    if (acao != caNone && foco && isAncestorOf(foco))
+        foco->clearFocus();
     const QPointer<TControlBasFr> quem = Chamador;
     if (!quem)
         return;
@@ -385,6 +391,7 @@ void TTabLinearBasF::Mover(void (TTabelaLinear::*mover)(), bool pode)
     if (!pode)
         return;
     const TFlagGuarda ligado(this, &TTabLinearBasF::AtualizarLigado, false);
+    RelerSeFechada();
     (Tab.get()->*mover)();
 }
 
@@ -573,7 +580,8 @@ void TTabLinearBasF::MostrarRegistro()
 void TTabLinearBasF::AtualizarRegistros()
 {
     const int registros = SQLQuery1->RecordCount();
-    if (registros == registrosMostrados)
+    // A list that could not be read again still shows its rows.
+    if (registros == registrosMostrados || !SQLQuery1->Active())
         return;
     registrosMostrados = registros;
     NRegsLabel->setText(TextoDosRegistros(registros));

@@ -225,6 +225,7 @@ private:
     int CodigoAtual() const;
     void IrParaCodigo(int cod);
     void PararNoQueNaoDesfaz();
+    bool RelerSeFechada();
     void GarantirListaAberta();
     void MostrarPagina(TPagina pagina);
     void FocarPagina();

@@ -67,9 +67,8 @@ void TTabLinearBasF::SelecionarPrimeiroControl() {}
 
 bool TTabLinearBasF::AtivarAlteracao()
 {
-    if (!Navegando() || ativando)
+    if (!Navegando() || ativando || !RelerSeFechada())
         return false;
-    GarantirListaAberta();
     if (SQLQuery1->IsEmpty())
         return AtivarInsersao();
     return IniciarAlteracao();
@@ -383,11 +382,18 @@ void TTabLinearBasF::ConfirmarInsersao()
             Close();
         return;
     }
+    // When the way to the new record fails, another one is current: the inputs must show that one,
+    // or the next key would start its alteration with the new record's values.
+    auto mostrar = qScopeGuard([&] {
+        if (viva && Navegando())
+            Protegido([this] { MostrarRegistro(); });
+    });
     Tab->InsFim();
-    if (AtenderChamador(CodUltimoInserido))
-        return;
-    Reler(0);
-    IrParaCodigo(CodUltimoInserido);
+    if (!AtenderChamador(CodUltimoInserido)) {
+        Reler(0);
+        IrParaCodigo(CodUltimoInserido);
+    }
+    mostrar.dismiss();
 }
 
 /** With a requesting frame AltFim is left out: the record's lock goes with the table, when the
@@ -396,6 +402,9 @@ void TTabLinearBasF::ConfirmarAlteracao()
 {
     const QPointer<TTabLinearBasF> viva(this);
     const int cod = CodigoAtual();
+    // A lost connection took the lock along, and somebody else may alter the record by now.
+    if (!Tab->GarantirTrava() || !viva || Tab->Status != TStatus::Alterando)
+        return;
     if (!Alterou() || !viva)
         return;
     if (AtenderChamador(CodAlterado))
@@ -493,7 +502,18 @@ void TTabLinearBasF::PararNoQueNaoDesfaz()
     Tab->Fim = true;
 }
 
-/** After a failed re-reading the list is closed: opens it again, on the same record. */
+/** After a failed re-reading the list is closed. While browsing it is read and shown again: false
+ * when another record is current then. */
+bool TTabLinearBasF::RelerSeFechada()
+{
+    if (SQLQuery1->Active())
+        return true;
+    const QString chaves = Tab->ChavesGarantia();
+    Reler(0);
+    return Tab->ChavesGarantia() == chaves;
+}
+
+/** The same in the middle of an edit: the inputs keep what was typed. */
 void TTabLinearBasF::GarantirListaAberta()
 {
     if (SQLQuery1->Active())

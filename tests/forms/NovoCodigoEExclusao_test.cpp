@@ -73,6 +73,19 @@ TEST_F(TNovoCodigoTest, WithoutACodeEditTheGeneratorGivesTheCode)
     TTabLinearBasF::EditCod = tela->CodFr;
 }
 
+TEST_F(TNovoCodigoTest, ANullCodeGivesAnEmptyText)
+{
+    struct TNuloFr : TNumEditBRCodBasFr {
+        using TNumEditBRCodBasFr::TNumEditBRCodBasFr;
+        Variant GetValor() const override { return TNulo(); }
+    };
+    Codigos({1});
+    TGruposF *tela = Abrir();
+    TTabLinearBasF::EditCod = Criar<TNuloFr>(tela->CamposTabSheet);
+    EXPECT_EQ(tela->StringProxCod(), QString());
+    TTabLinearBasF::EditCod = tela->CodFr;
+}
+
 TEST_F(TNovoCodigoTest, ATypedCodeAboveTheHighestPlusOneIsReplaced)
 {
     Codigos({1, 2});

@@ -94,7 +94,27 @@ TEST_F(TTabLinearBasFTest, GridAndToolBarsAreAsStated)
     EXPECT_EQ(tela->ConfirmBitBtn->GetAction(), tela->ConfirmAction);
     EXPECT_EQ(tela->FiltroAtivLab->text(), QStringLiteral("F I L T R O    A T I V A D O"));
     EXPECT_TRUE(tela->FiltroAtivLab->isHidden());
+    EXPECT_TRUE(tela->FiltroAtivLab->font().bold());
+    EXPECT_EQ(tela->FiltroAtivLab->palette().color(QPalette::WindowText), QColor(192, 0, 0));
     EXPECT_EQ(tela->CodFr->NumEditBR1->height(), 20);
+    botoes.clear();
+    for (TToolButton *b : tela->NavToolBar->Buttons())
+        botoes << b->objectName();
+    EXPECT_EQ(botoes, QStringList({"FirstToolButton", "PriorToolButton", "NextToolButton",
+                                   "LastToolButton"}));
+    EXPECT_EQ(tela->PageControl1->cornerWidget(Qt::TopRightCorner), tela->NRegsPanel);
+    EXPECT_TRUE(tela->PerguntarExcluir);
+    EXPECT_TRUE(tela->SincronizarLinha);
+    EXPECT_TRUE(tela->SelecaoNavega);
+    EXPECT_FALSE(tela->FiltroAtivo || tela->Fechando || tela->FecharAposChamador);
+    EXPECT_EQ(tela->ManterPagina, 0);
+    EXPECT_EQ(tela->CodUltimoInserido, 0);
+    EXPECT_EQ(tela->Chamador, nullptr);
+    tela->AltAction->Execute();
+    Ocioso();
+    const QRect confirmar(tela->ConfirmPanel->mapTo(tela, QPoint()), tela->ConfirmPanel->size());
+    EXPECT_GT(confirmar.left(), tela->width() / 2);
+    EXPECT_EQ(tela->ConfirmBitBtn->text(), QStringLiteral("Confirmar"));
 }
 
 TEST_F(TTabLinearBasFTest, AFreshScreenShowsTheListAndFillsTheInputsWithTheFirstRecord)
@@ -758,6 +778,7 @@ TEST_F(TTabLinearBasFTest, AposChangeStartsAnAlterationForADescendantsOwnInput)
 TEST_F(TTabLinearBasFTest, AWholeDayWithTheKeyboardAlone)
 {
     TresGrupos();
+    banco.Executar(QStringLiteral("insert into tipos values (6, 'liso')"));
     TGruposF *tela = Abrir();
     // Alter the second record.
     Tecla(Qt::Key_Down);
@@ -766,19 +787,30 @@ TEST_F(TTabLinearBasFTest, AWholeDayWithTheKeyboardAlone)
     Digitar(QStringLiteral("musgo"));
     Tecla(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(DescrNoBanco(2), QStringLiteral("musgo"));
-    // Insert another one from where the focus is.
+    // Insert another one from where the focus is, its type chosen from the list of the combo.
     Tecla(Qt::Key_I, Qt::ControlModifier | Qt::AltModifier);
     Digitar(QStringLiteral("preto"));
+    Tecla(Qt::Key_Tab);
+    EXPECT_EQ(Foco(), tela->TipoFr->ComboBox1);
+    Tecla(Qt::Key_Down);
     Tecla(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(DescrNoBanco(4), QStringLiteral("preto"));
-    // Start one more and think better of it.
+    EXPECT_EQ(banco.Valor(QStringLiteral("select tipos_cod from grupos where grupos_cod=4")),
+              Variant(6));
+    // Start one more and think better of it. The focus is where it was.
     Tecla(Qt::Key_I, Qt::ControlModifier | Qt::AltModifier);
+    Tecla(Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(Foco(), tela->Descr());
     Digitar(QStringLiteral("nada"));
     Tecla(Qt::Key_Escape);
     EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
     // Find the third in the list by its description, and delete it.
     Tecla(Qt::Key_PageUp, Qt::ControlModifier);
-    tela->StringGrid1->SetCol(1);
+    Tecla(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(tela->PageControl1->GetActivePageIndex(), 0);
+    ASSERT_EQ(Foco(), tela->StringGrid1);
+    Tecla(Qt::Key_Right);
+    EXPECT_EQ(tela->StringGrid1->GetCol(), 1);
     Tecla(Qt::Key_L, Qt::ControlModifier);
     ASSERT_TRUE(QTest::qWaitForWindowActive(LocalizBasF));
     Digitar(QStringLiteral("LILAS"));
@@ -1231,6 +1263,23 @@ TEST_F(TTabLinearBasFTest, TheLastCreatedScreenHasTheCodeEditUntilItIsDestroyed)
     EXPECT_EQ(TTabLinearBasF::EditCod, nullptr);
 }
 
+TEST_F(TTabLinearBasFTest, AnEarlierScreenInsertsWithTheCodeOfTheSharedEdit)
+{
+    TresGrupos();
+    TGruposF *primeira = Abrir();
+    TTiposF *ultima = Abrir<TTiposF>();
+    primeira->Show();
+    Ocioso();
+    Tecla(Qt::Key_I, Qt::ControlModifier | Qt::AltModifier);
+    EXPECT_EQ(ultima->CodFr->GetValor(), Variant(4)); // deliberately one variable for all screens
+    EXPECT_FALSE(ultima->CodFr->NumEditBR1->isReadOnly());
+    EXPECT_EQ(ultima->Tab->Status, TStatus::Ocioso);
+    Digitar(QStringLiteral("roxo"));
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(DescrNoBanco(4), QStringLiteral("roxo"));
+    EXPECT_EQ(primeira->Codigo(), QStringLiteral("4"));
+}
+
 TEST_F(TTabLinearBasFTest, TwoScreensDoNotFightOverTheCodeEditWhileIdle)
 {
     TresGrupos();
@@ -1436,6 +1485,54 @@ TEST_F(TTabLinearBasFTest, OnePassOfTheEnablingRulesIsCheap)
     EXPECT_LT(us, 50);
 }
 
+/** Counts the readings and the fillings of the list. */
+class TContagem
+{
+public:
+    explicit TContagem(TGruposF *aTela) : tela(aTela)
+    {
+        QObject::connect(tela->SQLQuery1, &TDataSet::AfterOpen, &vigia, [this] { ++leituras; });
+    }
+    /** "readings/fillings" since the last question. */
+    QString Desde()
+    {
+        const QString texto = QStringLiteral("%1/%2").arg(leituras).arg(tela->enchimentos);
+        leituras = tela->enchimentos = 0;
+        return texto;
+    }
+
+private:
+    TGruposF *tela;
+    int leituras = 0;
+    QObject vigia;
+};
+
+TEST_F(TTabLinearBasFTest, TheListIsReadAndFilledNoMoreOftenThanItMust)
+{
+    TresGrupos();
+    TGruposF *tela = Abrir();
+    TContagem lista(tela);
+    (void)lista.Desde();
+    Tecla(Qt::Key_Down);
+    Tecla(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(lista.Desde(), QStringLiteral("0/0"));
+    Tecla(Qt::Key_I, Qt::ControlModifier | Qt::AltModifier);
+    EXPECT_EQ(lista.Desde(), QStringLiteral("1/0"));
+    Tecla(Qt::Key_Escape);
+    EXPECT_EQ(lista.Desde(), QStringLiteral("1/1"));
+    Tecla(Qt::Key_I, Qt::ControlModifier | Qt::AltModifier);
+    Digitar(QStringLiteral("roxo"));
+    EXPECT_EQ(lista.Desde(), QStringLiteral("1/0"));
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(lista.Desde(), QStringLiteral("2/2"));
+    Tecla(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(lista.Desde(), QStringLiteral("1/0"));
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(lista.Desde(), QStringLiteral("2/2"));
+    Tecla(Qt::Key_Delete, Qt::ControlModifier);
+    EXPECT_EQ(lista.Desde(), QStringLiteral("2/1"));
+}
+
 TEST_F(TTabLinearBasFTest, AHundredThousandRows)
 {
     banco.Conexao().ExecutarScript(QStringLiteral(
@@ -1449,8 +1546,24 @@ TEST_F(TTabLinearBasFTest, AHundredThousandRows)
                     static_cast<long long>(relogio.elapsed()));
     };
     TGruposF *tela = nullptr;
+    const auto tecla = [this](Qt::Key qual, Qt::KeyboardModifiers com = Qt::NoModifier) {
+        Tecla(qual, com);
+        janela.grab(); // what the user waits for is on the screen
+    };
     medir("open the screen", [&] { tela = Abrir(); });
     EXPECT_EQ(tela->NRegsLabel->text(), QStringLiteral("100000 registros"));
+    medir("Ctrl+PgDn", [&] { tecla(Qt::Key_PageDown, Qt::ControlModifier); });
+    EXPECT_EQ(tela->Tab->RecNo, 100000);
+    medir("Ctrl+PgUp", [&] { tecla(Qt::Key_PageUp, Qt::ControlModifier); });
+    medir("100 pages down", [&] {
+        for (int i = 0; i < 100; ++i)
+            tecla(Qt::Key_PageDown);
+    });
+    EXPECT_GT(tela->Tab->RecNo, 1000);
+    medir("100 rows down", [&] {
+        for (int i = 0; i < 100; ++i)
+            tecla(Qt::Key_Down);
+    });
     medir("Reler", [&] { tela->Reler(99999); });
     EXPECT_EQ(tela->Tab->RecNo, 99999);
     medir("start an alteration", [&] { EXPECT_TRUE(tela->AtivarAlteracao()); });
@@ -1460,6 +1573,9 @@ TEST_F(TTabLinearBasFTest, AHundredThousandRows)
     medir("start an insertion", [&] { tela->InsAction->Execute(); });
     tela->Descr()->setText(QStringLiteral("novo"));
     medir("confirm it", [&] { tela->ConfirmAction->Execute(); });
+    EXPECT_EQ(tela->Tab->RecNo, 100001);
+    medir("start another one", [&] { tela->InsAction->Execute(); });
+    medir("cancel it", [&] { tela->CancelarAction->Execute(); });
     EXPECT_EQ(tela->Tab->RecNo, 100001);
     medir("delete a record", [&] { tela->ExclAction->Execute(); });
     EXPECT_EQ(tela->SQLQuery1->RecordCount(), 100000);

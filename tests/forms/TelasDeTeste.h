@@ -10,6 +10,7 @@
 #include "platform/database/ConexD.h"
 #include "platform/database/EDatabaseError.h"
 #include "platform/edits/TNumEditBR.h"
+#include "platform/hostforms/TMdiArea.h"
 #include "platform/toolkit/Ocioso.h"
 #include "platform/toolkit/TAction.h"
 #include "platform/toolkit/TActionList.h"
@@ -23,7 +24,6 @@
 #include "support/BancoTemp.h"
 
 #include <QLabel>
-#include <QMdiArea>
 #include <QMdiSubWindow>
 
 #include <gtest/gtest.h>
@@ -123,6 +123,11 @@ public:
     void AposAlterar() override { ganchos << QStringLiteral("AposAlterar"); }
     void AposExcluir() override { ganchos << QStringLiteral("AposExcluir"); }
     bool PodeExcluir() override { return podeExcluir; }
+    void PreencherStringGrid() override
+    {
+        ++enchimentos;
+        TTabLinearBasF::PreencherStringGrid();
+    }
     void Reler(int cod) override
     {
         ++releituras;
@@ -141,6 +146,7 @@ public:
     bool comUltimo = true;
     bool podeExcluir = true;
     int releituras = 0;
+    int enchimentos = 0;
 
 protected:
     void FormCreate(QObject *sender) override
@@ -289,7 +295,7 @@ protected:
     TServicosGuarda servicos;
     TBancoTemp banco{EsquemaDeTeste};
     TFicha biblioteca;
-    QMdiArea janela;
+    TMdiArea janela;
 
 private:
     static void Chamar(const std::function<void()> &f)
