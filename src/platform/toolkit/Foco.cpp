@@ -53,11 +53,15 @@ QWidget *JanelaDe(const QWidget *controle)
     return w;
 }
 
+void OuvirPorUltimo();
+
 std::shared_ptr<TFocoDaJanela> FocoDe(QWidget *janela)
 {
     auto &foco = Janelas()[janela];
     if (!foco) {
         foco = std::make_shared<TFocoDaJanela>();
+        if (qobject_cast<QMdiSubWindow *>(janela))
+            OuvirPorUltimo();
         QObject::connect(janela, &QObject::destroyed,
                          [](QObject *quem) { Janelas().remove(quem); });
     }
@@ -230,23 +234,43 @@ private:
     QPointer<QWidget> perdeu;
 };
 
-void LigarAoPrograma()
+QPointer<TCliqueDesfeito> &Cliques()
 {
-    static QPointer<QObject> ligado;
-    if (ligado == qApp)
+    static QPointer<TCliqueDesfeito> cliques;
+    return cliques;
+}
+
+/**
+ * Follows the focus, after everybody who follows it already. Child windows do: told of a focus that
+ * a message box of an exit has long taken away, one would take itself for activated again and give
+ * the focus to some control of its own.
+ */
+void OuvirPorUltimo()
+{
+    static QMetaObject::Connection ligacao;
+    TCliqueDesfeito *cliques = Cliques();
+    if (!cliques)
         return;
-    ligado = qApp;
-    auto *cliques = new TCliqueDesfeito;
-    cliques->setParent(qApp);
-    QObject::connect(qApp, &QApplication::focusChanged, cliques, [cliques](QWidget *de) {
+    QObject::disconnect(ligacao);
+    ligacao = QObject::connect(qApp, &QApplication::focusChanged, cliques, [cliques](QWidget *de) {
         const QPointer<QWidget> antes = de;
         const QPointer<QWidget> agora = QApplication::focusWidget();
-        if (!agora)
+        // A child window that becomes active has the focus itself before its control gets it back.
+        if (!agora || qobject_cast<QMdiSubWindow *>(agora))
             return;
         Andar(agora);
         if (antes && agora && Voltou(antes, agora, JanelaDe(agora)->focusWidget()))
             cliques->Preparar(agora);
     });
+}
+
+void LigarAoPrograma()
+{
+    if (Cliques())
+        return;
+    Cliques() = new TCliqueDesfeito;
+    Cliques()->setParent(qApp);
+    OuvirPorUltimo();
 }
 
 TControleOuvido &Ouvir(QWidget *controle)
