@@ -10,10 +10,8 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
-#include <QTimer>
 #include <QVBoxLayout>
 
 using namespace ficha;
@@ -305,42 +303,6 @@ TEST_F(Foco, FrameCanHoldTheFocusItself)
     EXPECT_EQ(Ordem(), QStringLiteral("+fora +dentro"));
     e1->setFocus();
     EXPECT_EQ(Ordem(), QString());
-}
-
-/** A child window told of a focus that the box has long taken away would give it to a control of
- * its own, which leaves the frame again: boxes without end. */
-TEST(FocoEmMdi, ABoxInsideAnExitThatGivesTheFocusBackComesUpOnce)
-{
-    QMdiArea area;
-    auto *form = new QWidget;
-    auto *caixa = new QVBoxLayout(form);
-    auto *fr = Criar<TFrame>(form);
-    auto *dentro = new QLineEdit;
-    (new QVBoxLayout(fr))->addWidget(dentro);
-    auto *fora = new QLineEdit;
-    caixa->addWidget(new QLineEdit);
-    caixa->addWidget(fr);
-    caixa->addWidget(fora);
-    int boxes = 0;
-    fr->OnExit = [&](QObject *) {
-        if (++boxes > 3)
-            return;
-        QMessageBox box(QMessageBox::Warning, QStringLiteral("Aviso"), QStringLiteral("não"),
-                        QMessageBox::Ok, &area);
-        QTimer::singleShot(20, &box, [&box] { box.accept(); });
-        box.exec();
-        area.activateWindow();
-        dentro->setFocus();
-    };
-    area.addSubWindow(form);
-    area.resize(600, 400);
-    area.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&area));
-    dentro->setFocus();
-    QTest::keyClick(dentro, Qt::Key_Tab);
-    QTest::qWait(50);
-    EXPECT_EQ(boxes, 1);
-    EXPECT_EQ(QApplication::focusWidget(), dentro);
 }
 
 TEST(FocoEmMdi, AnotherChildWindowIsNoExit)
