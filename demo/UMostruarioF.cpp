@@ -85,9 +85,9 @@ void TMostruarioF::FormCreate(QObject *sender)
     MostrarFrames(lista);
     MostrarDialogos(lista);
     rolagem->setWidget(lista);
-    auto *borda = new QVBoxLayout(Panel1);
-    borda->setContentsMargins(0, 0, 0, 0);
-    borda->addWidget(rolagem);
+    auto *caixa = new QVBoxLayout(Panel1);
+    caixa->setContentsMargins(0, 0, 0, 0);
+    caixa->addWidget(rolagem);
 }
 
 void TMostruarioF::MostrarFrames(QWidget *lista)
