@@ -176,6 +176,28 @@ void TServidorFirebird::EntregarAoUsuario()
     }
 }
 
+QString TServidorFirebird::ProgramaAlcancavel()
+{
+    const QString programa = Programa();
+    bool aberto = ::geteuid() != 0;
+    if (!aberto) {
+        aberto = QFileInfo(programa).permissions().testFlag(QFile::ExeOther);
+        for (QDir acima = QFileInfo(programa).canonicalPath(); aberto && !acima.isRoot();
+             acima.cdUp())
+            aberto = QFileInfo(acima.path()).permissions().testFlag(QFile::ExeOther);
+    }
+    if (aberto)
+        return programa;
+    const QString copia = pastaDoPrograma.filePath(QStringLiteral("firebird"));
+    constexpr auto Todos = QFile::ReadOther | QFile::ExeOther | QFile::ReadGroup | QFile::ExeGroup |
+                           QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner;
+    if (!QFile::exists(copia) && QFile::copy(programa, copia)) {
+        QFile::setPermissions(copia, Todos);
+        QFile::setPermissions(pastaDoPrograma.path(), Todos);
+    }
+    return copia;
+}
+
 bool TServidorFirebird::Iniciar()
 {
     QProcessEnvironment ambiente = QProcessEnvironment::systemEnvironment();
@@ -191,7 +213,7 @@ bool TServidorFirebird::Iniciar()
             ::_exit(126);
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     });
-    processo.start(Programa(), QStringList());
+    processo.start(ProgramaAlcancavel(), QStringList());
     return processo.waitForStarted() && Esperar();
 }
 

@@ -49,7 +49,12 @@ private:
     void EntregarAoUsuario();
     bool Esperar();
 
+    /** The program where the server's user may run it: a copy, when it lies in a folder that is
+     * closed to that user (a clone in root's home, say). */
+    QString ProgramaAlcancavel();
+
     QTemporaryDir pasta;
+    QTemporaryDir pastaDoPrograma;
     QProcess processo;
     int porta = 0;
 };
