@@ -107,7 +107,7 @@ void TTabLinearBasF::Create(QWidget *owner, const QString &parametro)
 
 QString TTabLinearBasF::TextoCaption()
 {
-    const QString texto = TTabBasF::TextoCaption();
+    QString texto = TTabBasF::TextoCaption();
     if (!Tab || Navegando())
         return texto;
     return texto + QStringLiteral(" - ") + Tab->StatusStr();

@@ -550,6 +550,7 @@ void TTabLinearBasF::MostrarRegistroDepois()
 std::vector<Variant> TTabLinearBasF::ValoresAtuais() const
 {
     std::vector<Variant> valores;
+    valores.reserve(std::size_t(Tab->Campos->Count()));
     for (int i = 0; i < Tab->Campos->Count(); ++i)
         valores.push_back(Tab->Campos->Campos(i)->Valor);
     return valores;

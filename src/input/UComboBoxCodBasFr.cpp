@@ -148,6 +148,7 @@ void TComboBoxCodBasFr::EditBitBtnClick(QObject *)
 void TComboBoxCodBasFr::UsarListaLonga()
 {
     std::vector<TItensDoCombo::TItem> atuais;
+    atuais.reserve(std::size_t(ComboBox1->Count()));
     for (int i = 0; i < ComboBox1->Count(); ++i)
         atuais.push_back({ComboBox1->Item(i), ComboBox1->GetObjeto(i)});
     const int escolhido = ComboBox1->GetItemIndex();

@@ -52,6 +52,7 @@ bool TItensDoCombo::setData(const QModelIndex &indice, const QVariant &valor, in
     } else {
         return false;
     }
+    // NOLINTNEXTLINE(readability-misleading-indentation): Q_EMIT is an empty macro
     Q_EMIT dataChanged(indice, indice);
     return true;
 }

@@ -327,6 +327,7 @@ void TTabelaLinear::LocalizarPelaChave(const QString &chaves)
     if (NRegistros() == 0)
         return;
     std::vector<TCampo *> campos;
+    campos.reserve(std::size_t(Campos->NChaves()));
     for (int i = 0; i < Campos->NChaves(); ++i)
         campos.push_back(Campos->Campos(i));
     const bool todos = TemEvento(campos);
