@@ -81,7 +81,7 @@ std::int64_t EmCentavos(double valor)
     constexpr double MaiorValor = 1e13;
     if (valor >= MaiorValor)
         return -1;
-    const auto centavos = std::int64_t(valor * 100 + 0.5);
+    const std::int64_t centavos = std::llround(valor * 100);
     return double(centavos) / 100 == valor ? centavos : -1;
 }
 

@@ -86,7 +86,7 @@ QString CEPComMasc(const QString &cep)
 {
     constexpr int AntesDoHifen = 5;
     constexpr int Tamanho = 8;
-    const QString digitos = SoDig(cep).left(Tamanho);
+    QString digitos = SoDig(cep).left(Tamanho);
     if (digitos.size() <= AntesDoHifen)
         return digitos;
     return digitos.left(AntesDoHifen) + u'-' + digitos.mid(AntesDoHifen);
