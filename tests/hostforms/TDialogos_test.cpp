@@ -5,11 +5,12 @@
 #include "platform/core/Servicos.h"
 #include "platform/toolkit/TActionList.h"
 #include "platform/toolkit/TBitBtn.h"
+#include "platform/toolkit/TMonthCalendar.h"
 #include "platform/toolkit/TPanel.h"
 #include "support/Girar.h"
 
-#include <QCalendarWidget>
 #include <QLineEdit>
+#include <QTableView>
 #include <QTimer>
 
 #include <stdexcept>
@@ -180,11 +181,39 @@ TYPED_TEST(TDialogos, OpensInTheMiddleOfItsOwnersWindowUnlessPlaced)
     EXPECT_EQ(onde, QPoint(7, 9));
 }
 
-TEST(TDiagMontCalendarBasF, DoubleClickOnADayIsOk)
+TEST(TDiagMontCalendarBasF, TwoClicksOnADayAreOkAndOneIsNot)
 {
     std::unique_ptr<TDiagMontCalendarBasF> d(Criar<TDiagMontCalendarBasF>(nullptr));
-    d->MonthCalendar1->setSelectedDate(QDate(2024, 3, 10));
-    QTimer::singleShot(10, [&] { Q_EMIT d->MonthCalendar1->activated(QDate(2024, 3, 10)); });
+    d->MonthCalendar1->SetDate(TDateTime::DeData(10, 3, 2024));
+    bool aberto = false;
+    QTimer::singleShot(10, [&] {
+        auto *grade = d->MonthCalendar1->findChild<QTableView *>();
+        const auto clicar = [&](auto como) {
+            const QModelIndex dia = grade->model()->index(3, 2);
+            como(grade->viewport(), Qt::LeftButton, Qt::KeyboardModifiers(),
+                 grade->visualRect(dia).center(), -1);
+        };
+        clicar([](auto &&...args) { QTest::mouseClick(args...); });
+        Girar(10);
+        aberto = d->isVisible();
+        clicar([](auto &&...args) { QTest::mouseDClick(args...); });
+    });
     EXPECT_TRUE(d->Executar());
-    EXPECT_EQ(d->MonthCalendar1->selectedDate(), QDate(2024, 3, 10));
+    EXPECT_TRUE(aberto);
+    EXPECT_EQ(d->MonthCalendar1->GetDate(), TDateTime::DeData(12, 3, 2024));
+}
+
+TEST(TDiagMontCalendarBasF, EnterOnADayIsOkAndEscIsCancelar)
+{
+    std::unique_ptr<TDiagMontCalendarBasF> d(Criar<TDiagMontCalendarBasF>(nullptr));
+    const auto tecla = [&](Qt::Key qual) {
+        QTimer::singleShot(10, [&d, qual] {
+            ASSERT_TRUE(d->MonthCalendar1->isAncestorOf(d->focusWidget()));
+            QTest::keyClick(d->focusWidget(), qual);
+        });
+    };
+    tecla(Qt::Key_Return);
+    EXPECT_TRUE(d->Executar());
+    tecla(Qt::Key_Escape);
+    EXPECT_FALSE(d->Executar());
 }

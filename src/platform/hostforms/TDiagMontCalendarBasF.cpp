@@ -1,9 +1,7 @@
 #include "platform/hostforms/TDiagMontCalendarBasF.h"
 
-#include "platform/toolkit/Evento.h"
 #include "platform/toolkit/Layout.h"
-
-#include <QCalendarWidget>
+#include "platform/toolkit/TMonthCalendar.h"
 
 namespace ficha
 {
@@ -16,8 +14,7 @@ void TDiagMontCalendarBasF::PegarComponentes()
 {
     TDiagBitBtnBasF::PegarComponentes();
     Pegar(this, MonthCalendar1, "MonthCalendar1");
-    MonthCalendar1->setLocale(QLocale(QLocale::Portuguese, QLocale::Brazil));
-    Ligar(MonthCalendar1, &QCalendarWidget::activated, this, [this] { OkClick(MonthCalendar1); });
+    MonthCalendar1->OnDblClick = [this](QObject *sender) { OkClick(sender); };
 }
 
 } // namespace ficha

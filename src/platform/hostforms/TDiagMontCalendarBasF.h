@@ -2,10 +2,10 @@
 
 #include "platform/hostforms/TDiagBitBtnBasF.h"
 
-class QCalendarWidget;
-
 namespace ficha
 {
+
+class TMonthCalendar;
 
 /** The host's dialog with a month calendar. A double click on a day is OK. */
 class TDiagMontCalendarBasF : public TDiagBitBtnBasF
@@ -15,7 +15,7 @@ class TDiagMontCalendarBasF : public TDiagBitBtnBasF
 public:
     explicit TDiagMontCalendarBasF(TChave chave);
 
-    QCalendarWidget *MonthCalendar1 = nullptr;
+    TMonthCalendar *MonthCalendar1 = nullptr;
 
 protected:
     void PegarComponentes() override;
