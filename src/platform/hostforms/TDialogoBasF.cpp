@@ -1,10 +1,12 @@
 #include "platform/hostforms/TDialogoBasF.h"
 
+#include "platform/toolkit/Alinhamento.h"
 #include "platform/toolkit/Evento.h"
 #include "platform/toolkit/Layout.h"
 #include "platform/toolkit/TPanel.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QPushButton>
 #include <QScreen>
 
@@ -29,6 +31,10 @@ void TDialogoBasF::PegarComponentes()
 {
     TBasF::PegarComponentes();
     Pegar(this, ButPanel, "ButPanel");
+    if (GetBorderStyle() == bsNone) {
+        setContentsMargins(1, 1, 1, 1);
+        ArrumarConteiner(this);
+    }
 }
 
 void TDialogoBasF::FormShow(QObject *sender)
@@ -38,6 +44,16 @@ void TDialogoBasF::FormShow(QObject *sender)
         Centralizar();
     if (!SelecionarTag1())
         SelectNext(nullptr);
+}
+
+void TDialogoBasF::paintEvent(QPaintEvent *evento)
+{
+    TBasF::paintEvent(evento);
+    if (GetBorderStyle() != bsNone)
+        return;
+    QPainter pintor(this);
+    pintor.setPen(palette().color(QPalette::Shadow));
+    pintor.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void TDialogoBasF::OkClick(QObject *)
