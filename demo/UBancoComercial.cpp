@@ -1,6 +1,7 @@
 #include "demo/UBancoComercial.h"
 
 #include "demo/UDadosDeExemplo.h"
+#include "demo/UGuiaDeCeps.h"
 #include "platform/database/ConexD.h"
 #include "platform/database/PrepararBanco.h"
 
@@ -41,6 +42,7 @@ void CriarComDados(const QString &arquivo)
     try {
         criacao.CriarBanco(Esquema());
         PrepararBanco(criacao);
+        InserirGuiaDeExemplo(criacao);
         InserirDadosDeExemplo(criacao);
         criacao.Close();
     } catch (...) {

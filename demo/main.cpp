@@ -1,5 +1,6 @@
 #include "demo/UBancoComercial.h"
 #include "demo/UComercialF.h"
+#include "demo/UGuiaDeCeps.h"
 #include "demo/UPasseio.h"
 #include "forms/UFicha.h"
 #include "platform/core/Erros.h"
@@ -9,6 +10,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QElapsedTimer>
 
 #include <cstdio>
 #include <memory>
@@ -27,6 +29,8 @@ struct TOpcoes {
     QString FotoDaRecusa;
     /** The screen to open at the start. */
     QString Abrir;
+    /** Streets to add to the postal-code guide. */
+    QString GerarGuia;
 };
 
 TOpcoes LerOpcoes(const QApplication &app)
@@ -42,13 +46,16 @@ TOpcoes LerOpcoes(const QApplication &app)
          QStringLiteral("pasta"), QStringLiteral("build/tour")},
         {QStringLiteral("abrir"), QStringLiteral("Abre uma tela: grupos ou produtos"),
          QStringLiteral("tela")},
+        {QStringLiteral("gerar-guia"),
+         QStringLiteral("Acrescenta ruas inventadas ao guia de CEPs, para medições, e termina"),
+         QStringLiteral("quantidade")},
         {QStringLiteral("foto-da-recusa"), QStringLiteral("Fotografa a mensagem de abertura"),
          QStringLiteral("arquivo")},
     });
     leitor.process(app);
     return {leitor.value(QStringLiteral("banco")), leitor.isSet(QStringLiteral("tour")),
             leitor.value(QStringLiteral("pasta")), leitor.value(QStringLiteral("foto-da-recusa")),
-            leitor.value(QStringLiteral("abrir"))};
+            leitor.value(QStringLiteral("abrir")), leitor.value(QStringLiteral("gerar-guia"))};
 }
 
 int Percorrer(TSQLConnection &conexao, const TOpcoes &opcoes)
@@ -60,6 +67,24 @@ int Percorrer(TSQLConnection &conexao, const TOpcoes &opcoes)
     AbrirBancoComercial(conexao, banco);
     const std::unique_ptr<TComercialF> janela(Criar<TComercialF>(nullptr));
     TPasseio(*janela, conexao, pasta).Executar();
+    return 0;
+}
+
+int AumentarGuia(TSQLConnection &conexao, const TOpcoes &opcoes)
+{
+    bool numero = false;
+    const int ruas = opcoes.GerarGuia.toInt(&numero);
+    if (!numero || ruas < 1)
+        throw EErro(QStringLiteral("A quantidade de ruas deve ser um número a partir de 1."));
+    AbrirBancoComercial(conexao, opcoes.Banco);
+    QElapsedTimer relogio;
+    relogio.start();
+    const int feitas = GerarGuia(conexao, ruas);
+    std::printf("%s\n", QStringLiteral("Guia de CEPs: %1 ruas acrescentadas em %2 s")
+                            .arg(feitas)
+                            .arg(double(relogio.elapsed()) / 1000, 0, 'f', 1)
+                            .toUtf8()
+                            .constData());
     return 0;
 }
 
@@ -77,9 +102,11 @@ int Trabalhar(TSQLConnection &conexao, const TOpcoes &opcoes)
 
 int main(int argc, char **argv)
 {
-    // The tour never needs a display.
+    // The tour and the guide's generator never need a display.
     for (int i = 1; i < argc; ++i) {
-        if (qstrcmp(argv[i], "--tour") == 0 && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        const bool semTela =
+            qstrcmp(argv[i], "--tour") == 0 || qstrncmp(argv[i], "--gerar-guia", 12) == 0;
+        if (semTela && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
             qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QApplication app(argc, argv);
@@ -91,6 +118,8 @@ int main(int argc, char **argv)
     RegistrarPastaDeLayouts(QStringLiteral(":/demo/layouts"));
     TSQLConnection conexao;
     try {
+        if (!opcoes.GerarGuia.isEmpty())
+            return AumentarGuia(conexao, opcoes);
         return opcoes.Passeio ? Percorrer(conexao, opcoes) : Trabalhar(conexao, opcoes);
     } catch (const EErro &e) {
         // The engine's own text, which follows the message, is for who looks into the log.
@@ -98,7 +127,7 @@ int main(int argc, char **argv)
         std::fputs((e.Mensagem() + u'\n').toUtf8().constData(), stderr);
         if (!opcoes.FotoDaRecusa.isEmpty())
             TPasseio::FotografarCaixa(opcoes.FotoDaRecusa);
-        if (!opcoes.Passeio)
+        if (!opcoes.Passeio && opcoes.GerarGuia.isEmpty())
             MensagemErro(mensagem);
         return 1;
     }
