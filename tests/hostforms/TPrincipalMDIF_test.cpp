@@ -12,6 +12,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTabBar>
 
 using namespace ficha;
 using ficha::testes::Girar;
@@ -160,6 +161,156 @@ TEST_F(TPrincipalTeste, SubWindowShowsTheFormsTitleIconAndDesignSize)
     EXPECT_EQ(um->SubJanela()->windowTitle(), QStringLiteral("Grupos"));
     EXPECT_FALSE(um->SubJanela()->windowIcon().isNull());
     EXPECT_EQ(um->size(), QSize(480, 320));
+}
+
+/** Two child windows, each with two pages of two edits; every tab bar can take the focus. */
+class TVoltaTeste : public TPrincipalTeste
+{
+protected:
+    void SetUp() override
+    {
+        TPrincipalTeste::SetUp();
+        p->resize(1000, 680);
+        um = p->Abrir<TUmF>();
+        Encher(um);
+        dois = p->Abrir<TDoisF>();
+        Encher(dois);
+        p->LadoALadoAction->Execute();
+        Girar();
+    }
+    static void Encher(TForm *form)
+    {
+        auto *paginas = new TPageControl(static_cast<TChildMDIBasF *>(form)->Panel1);
+        for (int i = 0; i < 2; ++i) {
+            auto *pagina = new TTabSheet(paginas);
+            for (int j = 0; j < 2; ++j) {
+                auto *edit = new QLineEdit(pagina);
+                edit->setObjectName(QStringLiteral("edit%1%2").arg(i).arg(j));
+                edit->setGeometry(10, 10 + 30 * j, 120, 22);
+                edit->show();
+            }
+        }
+        paginas->resize(300, 200);
+        paginas->show();
+    }
+    static QWidget *Edit(TForm *form, const char *nome)
+    {
+        return form->findChild<QLineEdit *>(QString::fromLatin1(nome));
+    }
+    static void Tecla(int tecla, Qt::KeyboardModifiers com = Qt::NoModifier)
+    {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(tecla), com);
+        Girar();
+    }
+    TForm *um = nullptr;
+    TForm *dois = nullptr;
+};
+
+/** Ways back into a child window that go for no control of it. */
+struct TVolta {
+    const char *nome;
+    void (*voltar)(TPrincipalMDIF &p, TForm &um);
+};
+
+void PrintTo(const TVolta &volta, std::ostream *em)
+{
+    *em << volta.nome;
+}
+
+const TVolta Voltas[] = {
+    {"CtrlF6",
+     [](TPrincipalMDIF &, TForm &) {
+         QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, Qt::ControlModifier);
+     }},
+    {"WindowMenu",
+     [](TPrincipalMDIF &p, TForm &) {
+         Q_EMIT p.JanelaMenu->aboutToShow();
+         for (QAction *item : p.JanelaMenu->actions()) {
+             if (item->isCheckable() && !item->isChecked()) {
+                 item->trigger();
+                 break;
+             }
+         }
+     }},
+    {"ClickOnTheTitle",
+     [](TPrincipalMDIF &, TForm &um) {
+         QTest::mouseClick(um.SubJanela(), Qt::LeftButton, {}, QPoint(80, 8));
+     }},
+    {"ClickOnTheGround",
+     [](TPrincipalMDIF &, TForm &um) {
+         QTest::mouseClick(static_cast<TChildMDIBasF &>(um).Panel1, Qt::LeftButton, {},
+                           QPoint(400, 250));
+     }},
+    {"ClosingTheOtherWindow", [](TPrincipalMDIF &p, TForm &) { p.FilhoAtivo()->Close(); }},
+    {"OpeningItAgain", [](TPrincipalMDIF &p, TForm &) { p.Abrir<TUmF>(); }},
+};
+
+class TVoltaPorTeste : public TVoltaTeste, public testing::WithParamInterface<TVolta>
+{
+};
+
+TEST_P(TVoltaPorTeste, TheControlThatHadTheFocusHasItAgain)
+{
+    Edit(um, "edit01")->setFocus();
+    Tecla(Qt::Key_F6, Qt::ControlModifier);
+    ASSERT_EQ(p->FilhoAtivo(), dois);
+    QTest::mouseClick(Edit(dois, "edit00"), Qt::LeftButton);
+    GetParam().voltar(*p, *um);
+    Girar();
+    EXPECT_EQ(p->FilhoAtivo(), um);
+    EXPECT_EQ(QApplication::focusWidget(), Edit(um, "edit01"));
+    EXPECT_EQ(um->ActiveControl(), Edit(um, "edit01"));
+}
+
+TEST_P(TVoltaPorTeste, InThePlaceOfADisabledOrHiddenControlTheFirstStopHasIt)
+{
+    for (const bool some : {false, true}) {
+        QWidget *edit = Edit(um, some ? "edit00" : "edit01");
+        p->Abrir<TUmF>();
+        edit->setFocus();
+        Girar();
+        ASSERT_EQ(QApplication::focusWidget(), edit);
+        auto *outra = p->Abrir<TDoisF>();
+        if (outra != dois)
+            Encher(dois = outra);
+        QTest::mouseClick(Edit(dois, "edit00"), Qt::LeftButton);
+        if (some)
+            edit->hide();
+        else
+            edit->setEnabled(false);
+        GetParam().voltar(*p, *um);
+        Girar();
+        EXPECT_EQ(p->FilhoAtivo(), um);
+        EXPECT_EQ(QApplication::focusWidget(), um->findChild<QTabBar *>());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Voltas, TVoltaPorTeste, testing::ValuesIn(Voltas),
+                         [](const auto &volta) { return std::string(volta.param.nome); });
+
+TEST_F(TVoltaTeste, AClickOnAnotherControlGoesToThatOne)
+{
+    Edit(um, "edit01")->setFocus();
+    QTest::mouseClick(Edit(dois, "edit00"), Qt::LeftButton);
+    ASSERT_EQ(QApplication::focusWidget(), Edit(dois, "edit00"));
+    QTest::mouseClick(Edit(um, "edit00"), Qt::LeftButton);
+    EXPECT_EQ(QApplication::focusWidget(), Edit(um, "edit00"));
+    auto *abas = dois->findChild<QTabBar *>();
+    QTest::mouseClick(abas, Qt::LeftButton, {}, abas->tabRect(0).center());
+    EXPECT_EQ(QApplication::focusWidget(), Edit(dois, "edit00")) << "tabs take no click focus";
+}
+
+TEST_F(TVoltaTeste, WhatGivesTheFocusBackIsNoStopOfTheTabKey)
+{
+    Edit(um, "edit00")->setFocus();
+    QList<QWidget *> paradas;
+    for (int i = 0; i < 6; ++i) {
+        paradas << QApplication::focusWidget();
+        Tecla(Qt::Key_Tab);
+    }
+    auto *abas = um->findChild<QTabBar *>();
+    EXPECT_EQ(paradas, (QList<QWidget *>{Edit(um, "edit00"), Edit(um, "edit01"), abas,
+                                         Edit(um, "edit00"), Edit(um, "edit01"), abas}));
 }
 
 #include "TPrincipalMDIF_test.moc"

@@ -299,6 +299,7 @@ void AoSair(QWidget *controle, std::function<void()> handler)
 
 QWidget *ControleAtivo(const QWidget *janela)
 {
+    LigarAoPrograma();
     const auto foco = Janelas().value(JanelaDe(janela));
     return foco ? Ativo(*foco) : nullptr;
 }

@@ -28,7 +28,8 @@ namespace ficha
 void AoEntrar(QWidget *controle, std::function<void()> handler);
 void AoSair(QWidget *controle, std::function<void()> handler);
 
-/** The control that counts as active in the window of a widget; null when there is none yet. */
+/** The control that counts as active in the window of a widget; null when there is none yet. The
+ * focus is followed from the first call of any of these functions on. */
 QWidget *ControleAtivo(const QWidget *janela);
 
 } // namespace ficha

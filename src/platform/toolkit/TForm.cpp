@@ -2,6 +2,7 @@
 
 #include "platform/toolkit/Evento.h"
 #include "platform/toolkit/Foco.h"
+#include "platform/toolkit/FocoDaSubJanela.h"
 #include "platform/toolkit/Layout.h"
 #include "platform/toolkit/TBitBtn.h"
 
@@ -531,6 +532,7 @@ void TForm::LigarSubJanela()
     if (sub == ligada)
         return;
     ligada = sub;
+    DevolverFocoAoVoltar(sub);
     estadoDaSub = sub->windowState() & ~Qt::WindowActive;
     connect(sub, &QMdiSubWindow::windowStateChanged, this,
             [this](Qt::WindowStates, Qt::WindowStates agora) {
