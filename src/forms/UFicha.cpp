@@ -5,11 +5,23 @@
 #include "forms/ULocalizBasF.h"
 #include "forms/UTabLinearD.h"
 #include "platform/core/Erros.h"
+#include "platform/support/Traducao.h"
 
 #include <QApplication>
 
 namespace ficha
 {
+
+namespace
+{
+
+const QLocale &PortuguesDoBrasil()
+{
+    static const QLocale idioma(QLocale::Portuguese, QLocale::Brazil);
+    return idioma;
+}
+
+} // namespace
 
 TFicha::TFicha()
 {
@@ -17,6 +29,9 @@ TFicha::TFicha()
         throw EErro(QStringLiteral("A biblioteca se inicia depois do QApplication."));
     if (TabLinearD)
         throw EErro(QStringLiteral("A biblioteca já está iniciada neste programa."));
+    // Before the first widget is made: each takes the locale of its creation.
+    QLocale::setDefault(PortuguesDoBrasil());
+    InstalarTraducao();
     imagens = std::make_unique<TImgD>();
     imagens->Instalar();
     tabLinearD = std::make_unique<TTabLinearD>();
@@ -29,6 +44,8 @@ TFicha::TFicha()
 
 TFicha::~TFicha()
 {
+    if (QLocale() == PortuguesDoBrasil())
+        QLocale::setDefault(idiomaAntes);
     LocalizBasF = nullptr;
     Img16D = nullptr;
     TabLinearD = nullptr;

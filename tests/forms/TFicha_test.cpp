@@ -11,7 +11,17 @@
 #include "platform/toolkit/TImageList.h"
 #include "platform/toolkit/TToolBar.h"
 
+#include <QCalendarWidget>
+#include <QDateEdit>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+
 #include <gtest/gtest.h>
+
+#include <memory>
 
 namespace ficha::testes
 {
@@ -85,6 +95,51 @@ TEST(TFichaTest, TheHostImageModuleIsFilledWhereTheHostHasNone)
     }
     EXPECT_EQ(SisD().ImageList16, &doHost);
     SisD().ImageList16 = nullptr;
+}
+
+/** Whatever the desktop's language is. */
+class TIdiomaTest : public testing::Test
+{
+protected:
+    void SetUp() override { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
+    void TearDown() override { QLocale::setDefault(antes); }
+    const QLocale antes;
+};
+
+TEST_F(TIdiomaTest, TheProgramSpeaksBrazilianPortugueseWhileTheLibraryLives)
+{
+    {
+        const TFicha biblioteca;
+        EXPECT_EQ(QLocale().name(), QStringLiteral("pt_BR"));
+        const QCalendarWidget calendario;
+        EXPECT_EQ(calendario.locale().monthName(3), QStringLiteral("março"));
+        const QDateEdit data(QDate(2024, 3, 9));
+        EXPECT_EQ(data.text(), QStringLiteral("09/03/2024"));
+        const QDialogButtonBox botoes(QDialogButtonBox::Cancel | QDialogButtonBox::Save);
+        EXPECT_EQ(botoes.button(QDialogButtonBox::Cancel)->text().remove(u'&'),
+                  QStringLiteral("Cancelar"));
+        EXPECT_EQ(botoes.button(QDialogButtonBox::Save)->text().remove(u'&'),
+                  QStringLiteral("Gravar"));
+        QFileDialog arquivo;
+        arquivo.setOption(QFileDialog::DontUseNativeDialog);
+        EXPECT_EQ(arquivo.labelText(QFileDialog::FileName).remove(u'&'),
+                  QStringLiteral("Nome do arquivo:"));
+        QLineEdit edit;
+        const std::unique_ptr<QMenu> menu(edit.createStandardContextMenu());
+        EXPECT_EQ(menu->actions().first()->text().section(u'\t', 0, 0).remove(u'&'),
+                  QStringLiteral("Desfazer"));
+    }
+    EXPECT_EQ(QLocale().language(), QLocale::German);
+}
+
+TEST_F(TIdiomaTest, AHostThatSetsAnotherLocaleAfterwardsKeepsIt)
+{
+    {
+        const TFicha biblioteca;
+        QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
+        EXPECT_EQ(QLocale().language(), QLocale::French);
+    }
+    EXPECT_EQ(QLocale().language(), QLocale::French);
 }
 
 TEST(TFichaTest, AScreenMayOutliveTheLibraryObject)
