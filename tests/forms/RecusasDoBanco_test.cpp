@@ -59,55 +59,62 @@ constexpr const char *Comprido = "O texto é mais longo do que o campo aceita.";
 constexpr const char *SemReferencia = "O registro a que este se refere não existe";
 constexpr const char *Perdida = "A conexão com o banco de dados foi perdida.";
 
-TEST_F(TRecusasDoBancoTest, InsertWithARepeatedKey)
+/** The two edits that write a record. */
+struct TGravacao {
+    const char *nome;
+    TStatus status;
+    int codigo; /**< of the record that is written */
+};
+
+void PrintTo(const TGravacao &gravacao, std::ostream *em)
 {
-    ComecarInsersao(QStringLiteral("verde"));
+    *em << gravacao.nome;
+}
+
+class TGravacaoRecusadaTest : public TRecusasDoBancoTest,
+                              public testing::WithParamInterface<TGravacao>
+{
+protected:
+    void Comecar(const QString &descr)
+    {
+        if (GetParam().status == TStatus::Inserindo)
+            ComecarInsersao(descr);
+        else
+            ComecarAlteracao(descr);
+    }
+};
+
+TEST_P(TGravacaoRecusadaTest, WithARepeatedKey)
+{
+    Comecar(QStringLiteral("verde"));
     Confirmar();
-    ConfereRecusa(Repetida, TStatus::Inserindo, QStringLiteral("verde"));
+    ConfereRecusa(Repetida, GetParam().status, QStringLiteral("verde"));
     EXPECT_EQ(Quantos(), 3);
     banco.Executar(QStringLiteral("delete from grupos where grupos_cod=2"));
     Confirmar();
-    EXPECT_EQ(DescrNoBanco(4), QStringLiteral("verde"));
+    EXPECT_EQ(DescrNoBanco(GetParam().codigo), QStringLiteral("verde"));
     EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
 }
 
-TEST_F(TRecusasDoBancoTest, AlterationWithARepeatedKey)
+TEST_P(TGravacaoRecusadaTest, WithAReferenceThatIsGone)
 {
-    ComecarAlteracao(QStringLiteral("verde"));
-    Confirmar();
-    ConfereRecusa(Repetida, TStatus::Alterando, QStringLiteral("verde"));
-    banco.Executar(QStringLiteral("delete from grupos where grupos_cod=2"));
-    Confirmar();
-    EXPECT_EQ(DescrNoBanco(1), QStringLiteral("verde"));
-    EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
-}
-
-TEST_F(TRecusasDoBancoTest, InsertWithAReferenceThatIsGone)
-{
-    ComecarInsersao(QStringLiteral("roxo"));
+    Comecar(QStringLiteral("roxo"));
     tela->TipoFr->SetValor(9);
     banco.Executar(QStringLiteral("delete from tipos"));
     Confirmar();
-    ConfereRecusa(SemReferencia, TStatus::Inserindo, QStringLiteral("roxo"));
+    ConfereRecusa(SemReferencia, GetParam().status, QStringLiteral("roxo"));
     EXPECT_EQ(tela->TipoFr->GetValor(), Variant(9));
     banco.Executar(QStringLiteral("insert into tipos values (9, 'liso')"));
     Confirmar();
-    EXPECT_EQ(banco.Valor(QStringLiteral("select tipos_cod from grupos where grupos_cod=4")),
+    EXPECT_EQ(banco.Valor(QStringLiteral("select tipos_cod from grupos where grupos_cod=%1")
+                              .arg(GetParam().codigo)),
               Variant(9));
 }
 
-TEST_F(TRecusasDoBancoTest, AlterationWithAReferenceThatIsGone)
-{
-    ComecarAlteracao(QStringLiteral("roxo"));
-    tela->TipoFr->SetValor(9);
-    banco.Executar(QStringLiteral("delete from tipos"));
-    Confirmar();
-    ConfereRecusa(SemReferencia, TStatus::Alterando, QStringLiteral("roxo"));
-    banco.Executar(QStringLiteral("insert into tipos values (9, 'liso')"));
-    Confirmar();
-    EXPECT_EQ(banco.Valor(QStringLiteral("select tipos_cod from grupos where grupos_cod=1")),
-              Variant(9));
-}
+INSTANTIATE_TEST_SUITE_P(Gravacoes, TGravacaoRecusadaTest,
+                         testing::Values(TGravacao{"Insertion", TStatus::Inserindo, 4},
+                                         TGravacao{"Alteration", TStatus::Alterando, 1}),
+                         [](const auto &gravacao) { return std::string(gravacao.param.nome); });
 
 TEST_F(TRecusasDoBancoTest, InsertAndAlterationWithAValueThatIsTooLong)
 {

@@ -1,30 +1,12 @@
 #include "input/URadioGroupCharBasFr.h"
-#include "platform/toolkit/TRadioGroup.h"
-#include "support/Entrada.h"
+#include "support/Opcoes.h"
 
 #include <QRadioButton>
 
 using namespace ficha;
 using namespace ficha::testes;
 
-namespace
-{
-
-class TRadioGroupCharBasFrTest : public TEntradaTest
-{
-protected:
-    TRadioGroupCharBasFr *Com(int opcoes)
-    {
-        auto *fr = Mostrado<TRadioGroupCharBasFr>();
-        for (int i = 0; i < opcoes; ++i)
-            fr->RadioGroup1->AddItem(QStringLiteral("opção %1").arg(i));
-        fr->RadioGroup1->SetItemIndex(0);
-        QCoreApplication::processEvents();
-        return fr;
-    }
-};
-
-} // namespace
+using TRadioGroupCharBasFrTest = TOpcoesTest<TRadioGroupCharBasFr>;
 
 TEST_F(TRadioGroupCharBasFrTest, TheValueIsTheCharacterOfTheOption)
 {

@@ -1,31 +1,13 @@
 #include "input/URadioGroupCodBasFr.h"
 #include "platform/core/Erros.h"
-#include "platform/toolkit/TRadioGroup.h"
-#include "support/Entrada.h"
+#include "support/Opcoes.h"
 
 #include <QRadioButton>
 
 using namespace ficha;
 using namespace ficha::testes;
 
-namespace
-{
-
-class TRadioGroupCodBasFrTest : public TEntradaTest
-{
-protected:
-    TRadioGroupCodBasFr *Com(int opcoes)
-    {
-        auto *fr = Mostrado<TRadioGroupCodBasFr>();
-        for (int i = 0; i < opcoes; ++i)
-            fr->RadioGroup1->AddItem(QStringLiteral("opção %1").arg(i));
-        fr->RadioGroup1->SetItemIndex(0);
-        QCoreApplication::processEvents();
-        return fr;
-    }
-};
-
-} // namespace
+using TRadioGroupCodBasFrTest = TOpcoesTest<TRadioGroupCodBasFr>;
 
 TEST_F(TRadioGroupCodBasFrTest, GetValorOfTheSecondOptionIs2)
 {
