@@ -1,0 +1,67 @@
+#include "input/UDocEditBRBasFr.h"
+
+#include "input/UEdicaoDoUsuario.h"
+#include "platform/edits/TDocEditBR.h"
+#include "platform/toolkit/Evento.h"
+#include "platform/toolkit/Foco.h"
+
+namespace ficha
+{
+
+TDocEditBRBasFr::TDocEditBRBasFr(TChave chave) : TDBControlBasFr(chave) {}
+
+void TDocEditBRBasFr::Create(QWidget *owner)
+{
+    TDBControlBasFr::Create(owner);
+    AoEntrar(Edit(), [this] { EditEntrou(); });
+    Ligar(Edit(), &TDocEditBR::textChanged, this, [this] { EditMudou(); });
+    Ligar(Edit(), &TDocEditBR::textEdited, this,
+          [this] { EditadoPeloUsuario(*this, *Edit(), pedido); });
+}
+
+void TDocEditBRBasFr::SetFocus()
+{
+    TDBControlBasFr::SetFocus();
+    if (parentWidget() && isVisible() && Edit()->isVisible())
+        Edit()->setFocus();
+}
+
+Variant TDocEditBRBasFr::GetValor() const
+{
+    return Edit()->GetValorVariant().AsString();
+}
+
+void TDocEditBRBasFr::SetValor(const Variant &valor)
+{
+    TDBControlBasFr::SetValor(valor);
+    Edit()->SetValorVariant(valor);
+}
+
+void TDocEditBRBasFr::Zerar()
+{
+    TDBControlBasFr::Zerar();
+    Edit()->SetValorVariant(QString());
+}
+
+QString TDocEditBRBasFr::AsString() const
+{
+    return Edit()->GetText();
+}
+
+QString TDocEditBRBasFr::SQLString() const
+{
+    return Edit()->SQLText();
+}
+
+QString TDocEditBRBasFr::FraseRef() const
+{
+    const QString frase = TDBControlBasFr::FraseRef();
+    return AceitaVazio ? frase : frase + QStringLiteral("  ");
+}
+
+bool TDocEditBRBasFr::Focused() const
+{
+    return hasFocus() || Edit()->hasFocus();
+}
+
+} // namespace ficha
