@@ -1,6 +1,7 @@
 #include "platform/toolkit/TCustomEdit.h"
 
 #include "platform/toolkit/AvisarUsuario.h"
+#include "platform/toolkit/Colagem.h"
 #include "platform/toolkit/Cores.h"
 #include "platform/toolkit/EntradaDeTexto.h"
 #include "platform/toolkit/Evento.h"
@@ -383,6 +384,8 @@ QString TCustomEdit::InserirTexto(const QString &texto)
 {
     QString entrada = NormalizarEntrada(texto, true);
     QString recusa = RecusaDoTexto(entrada);
+    if (recusa.isEmpty())
+        recusa = PassarColagem(*this, entrada);
     if (!recusa.isEmpty() || entrada.isEmpty())
         return recusa;
     if (TemMotor()) {
