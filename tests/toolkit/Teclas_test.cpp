@@ -147,6 +147,18 @@ TEST(Teclas, InputMethodTextIsTakenCharacterByCharacter)
     EXPECT_EQ(edit.text(), QStringLiteral("pao"));
 }
 
+TEST(Teclas, CtrlWithALetterIsItsControlCharacterAndNotTheLetter)
+{
+    QLineEdit edit;
+    QList<int> codigos;
+    AoTeclar(&edit, [&](QChar &c) { codigos << c.unicode(); });
+    QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&edit, Qt::Key_E, Qt::ControlModifier | Qt::AltModifier);
+    QTest::keyClick(&edit, Qt::Key_V);
+    EXPECT_EQ(codigos, (QList<int>{0x16, 0x01, u'e', u'v'})) << "Ctrl and Alt together type";
+}
+
 TEST(Teclas, HandlerMayDestroyItsControl)
 {
     const auto edit = new TCustomEdit;

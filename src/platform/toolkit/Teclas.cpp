@@ -47,9 +47,14 @@ bool EhLetraOuDigito(int codigo)
 }
 
 /** The character that a key types, 0 for a key that types none. Delete is no character, although
- * some platforms give it one. */
+ * some platforms give it one; Ctrl with a letter is a command and its control character on every
+ * platform, never the letter. */
 QChar CaractereDaTecla(const QKeyEvent &evento)
 {
+    const bool letra = evento.key() >= Qt::Key_A && evento.key() <= Qt::Key_Z;
+    if (letra && (evento.modifiers() & Qt::ControlModifier) &&
+        !(evento.modifiers() & Qt::AltModifier))
+        return QChar(char16_t(evento.key() - Qt::Key_A + 1));
     switch (evento.key()) {
     case Qt::Key_Delete:
         return {};
