@@ -1,6 +1,7 @@
 #include "input/UApoioInput.h"
 
 #include "platform/support/Textos.h"
+#include "platform/toolkit/Teclas.h"
 
 namespace ficha
 {
@@ -32,6 +33,15 @@ bool IniciaEdicao(QChar caractere)
 QString SQLDoCaractere(int n)
 {
     return QuotedStr(QChar(char16_t(unsigned(n) + 32U)));
+}
+
+void AvancarComEnter(int &tecla, QWidget &para)
+{
+    if (tecla != VK_RETURN)
+        return;
+    // First: what is left may open a message box and be gone behind it.
+    tecla = 0;
+    para.setFocus(Qt::TabFocusReason);
 }
 
 QString TextoForaDosLimites(const QString &rotulo, int minimo, int maximo)

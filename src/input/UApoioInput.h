@@ -4,6 +4,8 @@
 
 #include <QString>
 
+class QWidget;
+
 namespace ficha
 {
 
@@ -27,6 +29,10 @@ bool IniciaEdicao(QChar caractere);
 /** A number as a one-character literal for a char(1) column: the character of code n + 32 in
  * ISO8859_1, quoted. Codes above 255 are the caller's concern. */
 QString SQLDoCaractere(int n);
+
+/** Enter goes on to another input, entered as by Tab, and is used up: no default button of the form
+ * hears it. Other keys pass. */
+void AvancarComEnter(int &tecla, QWidget &para);
 
 /** The refusal of a number outside its bounds; both are named, enforced or not. Without a label it
  * begins with "Deve". */
