@@ -242,3 +242,33 @@ TEST_F(TDataSetTest, FailedOpenLeavesItClosed)
     dataset.Open();
     EXPECT_EQ(dataset.RecordCount(), 2);
 }
+
+TEST_F(TDataSetTest, BeforeOpenComesWhileNothingIsReadYet)
+{
+    QObject::connect(&dataset, &TDataSet::BeforeOpen, [this] {
+        EXPECT_FALSE(dataset.Active());
+        dataset.total = 7;
+    });
+    Abrir(2);
+    EXPECT_EQ(dataset.RecordCount(), 7) << "what the handler prepares is what is read";
+    dataset.Open();
+    EXPECT_EQ(dataset.RecordCount(), 7);
+}
+
+TEST_F(TDataSetTest, AReadOnlyDatasetRefusesToBeWritten)
+{
+    Abrir(1);
+    EXPECT_THROW(dataset.Fields(0)->SetAsInteger(1), EDatabaseError);
+}
+
+TEST_F(TDataSetTest, BeforeScrollComesBeforeEachMoveThatMoves)
+{
+    Abrir(3);
+    QList<int> antes;
+    QObject::connect(&dataset, &TDataSet::BeforeScroll, [&] { antes << dataset.RecNo(); });
+    dataset.Next();
+    dataset.Last();
+    dataset.Next();
+    dataset.First();
+    EXPECT_EQ(antes, (QList<int>{1, 2, 3}));
+}

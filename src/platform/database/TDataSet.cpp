@@ -34,6 +34,9 @@ void TDataSet::Open()
 {
     if (aberto)
         return;
+    Q_EMIT BeforeOpen();
+    if (aberto)
+        return;
     try {
         AbrirLinhas();
     } catch (...) {
@@ -45,9 +48,10 @@ void TDataSet::Open()
     recNo = IsEmpty() ? 0 : 1;
     bof = true;
     eof = recNo == 0;
+    linhaLida = linhaEditada = 0;
     Q_EMIT AfterOpen();
     if (aberto && recNo > 0)
-        Q_EMIT AfterScroll();
+        AvisarRolagem();
 }
 
 void TDataSet::Close()
@@ -57,8 +61,9 @@ void TDataSet::Close()
     FecharLinhas();
     Desligar();
     aberto = false;
-    recNo = 0;
+    recNo = linhaLida = linhaEditada = 0;
     eof = bof = true;
+    rolouCalado = mudouCalado = false;
     Q_EMIT AfterClose();
 }
 
@@ -76,6 +81,7 @@ int TDataSet::RecordCount() const
 
 void TDataSet::First()
 {
+    EncerrarEdicao();
     eof = IsEmpty();
     IrPara(eof ? 0 : 1);
     bof = true;
@@ -83,6 +89,7 @@ void TDataSet::First()
 
 void TDataSet::Last()
 {
+    EncerrarEdicao();
     const int total = RecordCount();
     bof = total == 0;
     IrPara(total);
@@ -101,6 +108,7 @@ void TDataSet::Prior()
 
 int TDataSet::MoveBy(int n)
 {
+    EncerrarEdicao();
     const int total = RecordCount();
     if (n == 0 || total == 0)
         return 0;
@@ -134,9 +142,71 @@ TField *TDataSet::FieldByName(const QString &nome) const
                          QStringLiteral("O campo '%1' não existe na consulta.").arg(nome));
 }
 
+void TDataSet::DisableControls()
+{
+    ++desabilitados;
+}
+
+void TDataSet::EnableControls()
+{
+    if (desabilitados == 0)
+        return;
+    if (desabilitados == 1)
+        AntesDeHabilitar();
+    if (--desabilitados > 0 || !aberto)
+        return;
+    if (std::exchange(mudouCalado, false))
+        Q_EMIT DadosMudaram();
+    if (std::exchange(rolouCalado, false) && aberto)
+        Q_EMIT AfterScroll();
+}
+
 QString TDataSet::CelulaTexto(int linha, int coluna) const
 {
     return CelulaValor(linha, coluna).AsString();
+}
+
+void TDataSet::GravarCelula(const TField &campo, const Variant &)
+{
+    throw EDatabaseError(
+        TErroBanco::SomenteLeitura,
+        QStringLiteral("O campo '%1' é somente de leitura.").arg(campo.FieldName()));
+}
+
+int TDataSet::ColunaDoCampo(const TField &campo)
+{
+    return campo.coluna;
+}
+
+TField *TDataSet::NovoCampo(const TColuna &coluna)
+{
+    TField *campo = campos.emplace_back(std::make_unique<TField>(this, coluna.nome)).get();
+    campo->tipo = coluna.tipo;
+    campo->tamanho = coluna.tamanho;
+    campo->escala = coluna.escala;
+    return campo;
+}
+
+void TDataSet::Renumerar(int linha)
+{
+    recNo = linha;
+    bof = eof = linha == 0;
+}
+
+void TDataSet::AvisarRolagem()
+{
+    if (ControlsDisabled())
+        rolouCalado = true;
+    else
+        Q_EMIT AfterScroll();
+}
+
+void TDataSet::AvisarDados()
+{
+    if (ControlsDisabled())
+        mudouCalado = true;
+    else
+        Q_EMIT DadosMudaram();
 }
 
 void TDataSet::DefinirColunas(const std::vector<TColuna> &colunas)
@@ -171,8 +241,12 @@ void TDataSet::IrPara(int linha)
 {
     if (linha == recNo)
         return;
+    if (!ControlsDisabled())
+        Q_EMIT BeforeScroll();
+    if (!aberto)
+        return;
     recNo = linha;
-    Q_EMIT AfterScroll();
+    AvisarRolagem();
 }
 
 } // namespace ficha

@@ -3,8 +3,10 @@
 #include "platform/database/TField.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace ficha
@@ -15,8 +17,9 @@ namespace ficha
  * AfterScroll; RecordCount is exact as soon as the dataset is open.
  *
  * AfterScroll is emitted only when the row number really changes, and once by Open() when there is
- * a row. Columns of equal names get "_1", "_2", ... appended from the second on, so that every name
- * binds one column; a column without a name is called "F_1", and so on.
+ * a row; BeforeScroll just before a row number changes. Columns of equal names get "_1", "_2", ...
+ * appended from the second on, so that every name binds one column; a column without a name is
+ * called "F_1", and so on.
  *
  * Row numbers run from 1; RecNo() is 0 when there is no row. A closed dataset has no rows and
  * answers every question as an empty one does.
@@ -58,11 +61,24 @@ public:
     /** By name; EDatabaseError naming the field when there is none. */
     TField *FieldByName(const QString &nome) const;
 
+    /**
+     * Between the two nothing announces itself: neither scrolling nor changed rows. Calls nest; the
+     * last EnableControls announces once what happened in between.
+     */
+    void DisableControls();
+    void EnableControls();
+    bool ControlsDisabled() const { return desabilitados > 0; }
+
 Q_SIGNALS:
+    /** Open was asked for and nothing is read yet: the place to write a query's text. */
+    void BeforeOpen();
     void AfterOpen();
     void AfterClose();
+    void BeforeScroll();
     /** The current row changed. */
     void AfterScroll();
+    /** Rows came, went, changed their order or their values while the dataset stays open. */
+    void DadosMudaram();
 
 protected:
     struct TColuna {
@@ -80,12 +96,32 @@ protected:
     virtual bool CelulaNula(int linha, int coluna) const = 0;
     virtual Variant CelulaValor(int linha, int coluna) const = 0;
     virtual QString CelulaTexto(int linha, int coluna) const;
+    /** Writes a value into the row under edit. Refused here: most datasets only read. */
+    virtual void GravarCelula(const TField &campo, const Variant &valor);
+    /** The current row is about to be left: a dataset with an edit state ends it. */
+    virtual void EncerrarEdicao() {}
+    /** The controls come back and nothing was announced yet. */
+    virtual void AntesDeHabilitar() {}
+
+    /** Column of a field among the open ones, -1 when it has none. */
+    static int ColunaDoCampo(const TField &campo);
+    /** A new field, owned; the name must be a new one. */
+    TField *NovoCampo(const TColuna &coluna);
+    /** The current row from now on, from 1; 0 for none. Announces nothing. */
+    void Renumerar(int linha);
+    /** Row (from 1) that the fields read while a row is edited; 0 for the current one. */
+    void SetLinhaDosCampos(int linha) { linhaEditada = linha; }
+    /** Announces, or remembers it until EnableControls. */
+    void AvisarRolagem();
+    void AvisarDados();
     /** Matches the columns to the fields by name; keeps the fields of columns that are gone, which
      * then raise EDatabaseError when they are read. */
     void DefinirColunas(const std::vector<TColuna> &colunas);
 
 private:
     friend class TField;
+    friend class TLerLinha;
+    int LinhaDosCampos() const { return linhaLida > 0 ? linhaLida : linhaEditada > 0 ? linhaEditada : recNo; }
     void Desligar();
     TField *CampoDaColuna(const QString &nome);
     void IrPara(int linha);
@@ -93,9 +129,38 @@ private:
     std::vector<std::unique_ptr<TField>> campos; /**< every field ever made, owned */
     std::vector<TField *> abertos;               /**< the open columns in their order */
     int recNo = 0;
+    int linhaLida = 0;    /**< read by the fields for a TLerLinha */
+    int linhaEditada = 0; /**< read by the fields during an edit */
+    int desabilitados = 0;
+    bool rolouCalado = false, mudouCalado = false;
     bool aberto = false;
     bool eof = true;
     bool bof = true;
+};
+
+/**
+ * While it lives, the fields of a dataset read another row than the current one, for lists that
+ * paint their rows. The current row stays and nothing is announced.
+ */
+class TLerLinha
+{
+public:
+    /** The row's number, from 1 to RecordCount. */
+    TLerLinha(TDataSet *dataset, int linha)
+        : dono(dataset), antes(std::exchange(dataset->linhaLida, linha))
+    {
+    }
+    ~TLerLinha()
+    {
+        if (dono)
+            dono->linhaLida = antes;
+    }
+    TLerLinha(const TLerLinha &) = delete;
+    TLerLinha &operator=(const TLerLinha &) = delete;
+
+private:
+    QPointer<TDataSet> dono;
+    int antes;
 };
 
 } // namespace ficha

@@ -6,31 +6,33 @@
 namespace ficha
 {
 
-bool TField::TemValor() const
+int TField::Linha() const
 {
-    if (!dataSet->Active() || dataSet->RecNo() == 0)
-        return false;
-    if (coluna < 0) {
+    const int linha = dataSet->Active() ? dataSet->LinhaDosCampos() : 0;
+    if (linha > 0 && coluna < 0) {
         throw EDatabaseError(
             TErroBanco::Outro,
             QStringLiteral("O campo '%1' não existe mais na consulta.").arg(fieldName));
     }
-    return true;
+    return linha - 1;
 }
 
 bool TField::IsNull() const
 {
-    return !TemValor() || dataSet->CelulaNula(dataSet->RecNo() - 1, coluna);
+    const int linha = Linha();
+    return linha < 0 || dataSet->CelulaNula(linha, coluna);
 }
 
 Variant TField::Value() const
 {
-    return TemValor() ? dataSet->CelulaValor(dataSet->RecNo() - 1, coluna) : Null;
+    const int linha = Linha();
+    return linha < 0 ? Null : dataSet->CelulaValor(linha, coluna);
 }
 
 QString TField::AsString() const
 {
-    return TemValor() ? dataSet->CelulaTexto(dataSet->RecNo() - 1, coluna) : QString();
+    const int linha = Linha();
+    return linha < 0 ? QString() : dataSet->CelulaTexto(linha, coluna);
 }
 
 int TField::AsInteger() const
@@ -46,6 +48,11 @@ double TField::AsFloat() const
 TDateTime TField::AsDateTime() const
 {
     return Value().AsDateTime();
+}
+
+void TField::SetValue(const Variant &valor)
+{
+    dataSet->GravarCelula(*this, valor);
 }
 
 } // namespace ficha

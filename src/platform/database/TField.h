@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/core/TAlignment.h"
 #include "platform/core/Variant.h"
 
 #include <QString>
@@ -28,7 +29,8 @@ enum class TFieldType {
  * One column of a dataset. It lives as long as its dataset and is matched to the columns by name
  * at every opening, so that screens bind it once; the dataset owns it.
  *
- * Values are those of the dataset's current row; on an empty or closed dataset they are Null.
+ * Values are those of the dataset's current row, or of the row that is being written; on an empty
+ * or closed dataset they are Null.
  */
 class TField
 {
@@ -42,7 +44,13 @@ public:
     /** What users read; the field's name until a screen sets it. */
     QString DisplayLabel() const { return displayLabel.isNull() ? fieldName : displayLabel; }
     void SetDisplayLabel(QString texto) { displayLabel = std::move(texto); }
-    /** Number pattern for lists ("###,###,##0.00"); empty when there is none. */
+    /** The component's name, where whoever made the field gave it one. */
+    const QString &Name() const { return nomeDoComponente; }
+    void SetName(QString nome) { nomeDoComponente = std::move(nome); }
+    /** How lists align the column; to the left until a screen sets it. */
+    TAlignment Alignment() const { return alinhamento; }
+    void SetAlignment(TAlignment novo) { alinhamento = novo; }
+    /** Pattern for lists, of numbers ("###,###,##0.00") or dates; empty when there is none. */
     const QString &DisplayFormat() const { return displayFormat; }
     void SetDisplayFormat(QString formato) { displayFormat = std::move(formato); }
     TFieldType DataType() const { return tipo; }
@@ -74,16 +82,36 @@ public:
     int AsInteger() const;
     double AsFloat() const;
     TDateTime AsDateTime() const;
+    /** Whether the value is other than zero; false for Null. */
+    bool AsBoolean() const { return AsFloat() != 0; }
+
+    /**
+     * Writes the value of the row that is being edited or inserted. Unassigned and Null empty it;
+     * everything else is converted to the column's kind.
+     *
+     * Raises EDatabaseError when the dataset cannot be written, is not in an edit state, or the
+     * text is longer than the column; EVariantError when the value cannot be converted.
+     */
+    void SetValue(const Variant &valor);
+    void SetAsString(const QString &valor) { SetValue(valor); }
+    void SetAsInteger(int valor) { SetValue(valor); }
+    void SetAsFloat(double valor) { SetValue(valor); }
+    void SetAsDateTime(TDateTime valor) { SetValue(valor); }
+    void SetAsBoolean(bool valor) { SetValue(valor ? 1 : 0); }
+    void Clear() { SetValue(Null); }
 
 private:
     friend class TDataSet;
-    /** There is a current row; EDatabaseError naming the field when its column is gone. */
-    bool TemValor() const;
+    /** The row that is read, from 0, or -1; EDatabaseError naming the field when there is one but
+     * the field's column is gone. */
+    int Linha() const;
 
     TDataSet *dataSet;
     QString fieldName;
     QString displayLabel;
     QString displayFormat;
+    QString nomeDoComponente;
+    TAlignment alinhamento = taLeftJustify;
     TFieldType tipo = TFieldType::ftUnknown;
     int tamanho = 0;
     int escala = 0;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/toolkit/Evento.h"
-#include "platform/toolkit/GradeTextos.h"
+#include "platform/core/GradeTextos.h"
 #include "platform/toolkit/TStringGrid.h"
 
 #include <QBasicTimer>

@@ -1,4 +1,4 @@
-#include "platform/toolkit/GradeTextos.h"
+#include "platform/core/GradeTextos.h"
 
 #include <algorithm>
 #include <cstring>

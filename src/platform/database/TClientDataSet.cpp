@@ -1,0 +1,603 @@
+#include "platform/database/TClientDataSet.h"
+
+#include "platform/database/Colacao.h"
+#include "platform/database/EDatabaseError.h"
+#include "platform/database/FiltroDeTexto.h"
+#include "platform/database/LinhasEmMemoria.h"
+#include "platform/database/OrdemDeLinhas.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace ficha
+{
+
+namespace
+{
+
+/** The row number under which the fields read a row that stands in no list. */
+constexpr int LinhaAparte = std::numeric_limits<int>::max();
+constexpr int PoucosMortos = 1024; // rows whose loss is not worth moving the others
+
+[[noreturn]] void Recusar(const QString &texto)
+{
+    throw EDatabaseError(TErroBanco::Outro, texto);
+}
+
+bool Guardavel(TFieldType tipo)
+{
+    return tipo != TFieldType::ftUnknown && tipo != TFieldType::ftBlob;
+}
+
+bool EhTexto(TFieldType tipo)
+{
+    return tipo == TFieldType::ftString || tipo == TFieldType::ftMemo;
+}
+
+} // namespace
+
+struct TClientDataSet::TPrivado {
+    TLinhasEmMemoria linhas;
+    std::vector<quint32> ids; /**< by slot, rising; 0 for a deleted row */
+    quint32 proximoId = 1;
+    int mortos = 0;
+
+    std::vector<int> visiveis; /**< slots in the order shown, those the filter lets through */
+    bool desordenado = false;  /**< rows at the end wait for EnableControls */
+    struct TGuardada {
+        TCriterio criterio;
+        TOrdem ordem;
+    };
+    std::vector<TGuardada> ordens; /**< of all rows, until one of them changes */
+
+    std::vector<Variant> escrita; /**< the row under edit */
+    bool modificada = false;
+    int aparte = -1; /**< slot read under LinhaAparte, -1 for the row under edit */
+
+    std::function<bool()> filtroDeTexto;
+    std::function<bool(const TDataSet &)> pergunta;
+
+    std::vector<int> Vivas() const
+    {
+        std::vector<int> vivas;
+        vivas.reserve(ids.size());
+        for (size_t i = 0; i < ids.size(); ++i) {
+            if (ids[i] != 0)
+                vivas.push_back(int(i));
+        }
+        return vivas;
+    }
+    const TOrdem &Ordem(const TCriterio &criterio)
+    {
+        for (const TGuardada &guardada : ordens) {
+            if (guardada.criterio == criterio)
+                return guardada.ordem;
+        }
+        ordens.push_back({criterio, Ordenar(linhas, Vivas(), criterio)});
+        return ordens.back().ordem;
+    }
+};
+
+TClientDataSet::TClientDataSet(QObject *owner) : TDataSet(owner), d(std::make_unique<TPrivado>()) {}
+
+TClientDataSet::~TClientDataSet() = default;
+
+TField *TClientDataSet::AddField(const QString &nome, TFieldType tipo, int tamanho)
+{
+    if (criado)
+        Recusar(QStringLiteral("O campo '%1' não pode ser criado depois do dataset.").arg(nome));
+    if (nome.trimmed().isEmpty())
+        Recusar(QStringLiteral("Um campo precisa de nome."));
+    if (!Guardavel(tipo))
+        Recusar(QStringLiteral("O tipo do campo '%1' não pode ser guardado.").arg(nome));
+    for (const TColuna &outra : definicoes) {
+        if (outra.nome.compare(nome, Qt::CaseInsensitive) == 0)
+            Recusar(QStringLiteral("O nome de campo '%1' já está em uso.").arg(nome));
+    }
+    const TColuna &nova =
+        definicoes.emplace_back(TColuna{nome, tipo, EhTexto(tipo) ? std::max(tamanho, 0) : 0, 0});
+    return NovoCampo(nova);
+}
+
+void TClientDataSet::CreateDataSet()
+{
+    if (definicoes.empty())
+        Recusar(QStringLiteral("O dataset não tem campos."));
+    if (criado)
+        Recusar(QStringLiteral("O dataset já foi criado."));
+    std::vector<TFieldType> tipos;
+    for (const TColuna &coluna : definicoes)
+        tipos.push_back(coluna.tipo);
+    d->linhas.Preparar(tipos);
+    d->escrita.resize(tipos.size(), Null);
+    criado = true;
+}
+
+void TClientDataSet::Append()
+{
+    ExigirAberto();
+    EncerrarEdicao();
+    std::fill(d->escrita.begin(), d->escrita.end(), Null);
+    EntrarEm(dsInsert);
+}
+
+void TClientDataSet::Edit()
+{
+    ExigirAberto();
+    if (estado != dsBrowse)
+        return;
+    if (RecNo() == 0)
+        Recusar(QStringLiteral("Não há registro para alterar."));
+    for (size_t c = 0; c < d->escrita.size(); ++c)
+        d->escrita[c] = d->linhas.Valor(SlotAtual(), int(c));
+    EntrarEm(dsEdit);
+}
+
+void TClientDataSet::Post()
+{
+    if (estado != dsEdit && estado != dsInsert)
+        Recusar(QStringLiteral("O dataset não está em edição."));
+    const bool nova = estado == dsInsert;
+    const int slot = nova ? d->linhas.Nova() : SlotAtual();
+    if (nova)
+        d->ids.push_back(d->proximoId++);
+    for (size_t c = 0; c < d->escrita.size(); ++c)
+        d->linhas.Gravar(slot, int(c), d->escrita[c]);
+    d->ordens.clear();
+    SairDaEdicao();
+    if (nova && !ControlsDisabled())
+        Q_EMIT BeforeScroll();
+    if (!nova)
+        d->visiveis.erase(d->visiveis.begin() + (RecNo() - 1));
+    Colocar(slot);
+    AvisarDados();
+    if (nova || SlotAtual() != slot)
+        AvisarRolagem();
+}
+
+void TClientDataSet::Cancel()
+{
+    if (estado != dsEdit && estado != dsInsert)
+        return;
+    SairDaEdicao();
+    AvisarDados();
+}
+
+void TClientDataSet::Delete()
+{
+    ExigirAberto();
+    Cancel();
+    if (RecNo() == 0)
+        Recusar(QStringLiteral("Não há registro para excluir."));
+    if (!ControlsDisabled())
+        Q_EMIT BeforeScroll();
+    const int linha = RecNo(), slot = SlotAtual();
+    d->ids[size_t(slot)] = 0;
+    d->linhas.Limpar(slot);
+    ++d->mortos;
+    d->ordens.clear();
+    d->visiveis.erase(d->visiveis.begin() + (linha - 1));
+    Renumerar(std::min(linha, int(d->visiveis.size())));
+    CompactarSeValer();
+    AvisarDados();
+    AvisarRolagem();
+}
+
+void TClientDataSet::AppendRecord(std::initializer_list<Variant> valores)
+{
+    Append();
+    int i = 0;
+    for (const Variant &valor : valores)
+        Fields(i++)->SetValue(valor);
+    Post();
+}
+
+void TClientDataSet::EmptyDataSet()
+{
+    ExigirCriado();
+    Cancel();
+    const bool tinha = RecNo() > 0;
+    d->linhas.Esvaziar();
+    d->ids = {};
+    d->mortos = 0;
+    d->ordens.clear();
+    d->visiveis = {};
+    d->desordenado = false;
+    if (!Active())
+        return;
+    Renumerar(0);
+    AvisarDados();
+    if (tinha)
+        AvisarRolagem();
+}
+
+void TClientDataSet::AddIndex(const QString &nome, const QString &nomes, unsigned opcoes)
+{
+    if (nome.isEmpty() || HasIndex(nome))
+        Recusar(QStringLiteral("O nome de índice '%1' já está em uso.").arg(nome));
+    const QStringList lista = nomes.split(u';', Qt::SkipEmptyParts);
+    if (lista.isEmpty())
+        Recusar(QStringLiteral("O índice '%1' não tem campos.").arg(nome));
+    for (const QString &campo : lista)
+        FieldByName(campo);
+    indices.push_back({nome, lista, opcoes});
+}
+
+void TClientDataSet::DeleteIndex(const QString &nome)
+{
+    if (nome == indexName)
+        SetIndexName(QString());
+    std::erase_if(indices, [&](const TIndexDef &indice) { return indice.Nome == nome; });
+}
+
+void TClientDataSet::SetIndexName(const QString &nome)
+{
+    if (!nome.isEmpty() && !HasIndex(nome))
+        Recusar(QStringLiteral("O índice '%1' não existe.").arg(nome));
+    if (nome == indexName)
+        return;
+    if (Active())
+        EncerrarEdicao();
+    indexName = nome;
+    Reordenar();
+}
+
+void TClientDataSet::SetFilter(const QString &texto)
+{
+    ExigirCriado();
+    d->filtroDeTexto = texto.trimmed().isEmpty() ? nullptr : LerFiltro(texto, *this);
+    filtro = texto;
+    if (filtrado)
+        Reordenar();
+}
+
+void TClientDataSet::SetOnFilterRecord(std::function<bool(const TDataSet &)> pergunta)
+{
+    d->pergunta = std::move(pergunta);
+    if (filtrado)
+        Reordenar();
+}
+
+void TClientDataSet::SetFiltered(bool v)
+{
+    if (filtrado == v)
+        return;
+    filtrado = v;
+    Reordenar();
+}
+
+void TClientDataSet::AtualizarFiltro()
+{
+    if (filtrado)
+        Reordenar();
+}
+
+bool TClientDataSet::Locate(const QString &nomes, const std::vector<Variant> &valores,
+                            unsigned opcoes)
+{
+    ExigirAberto();
+    EncerrarEdicao();
+    const bool dobrar = opcoes & loCaseInsensitive;
+    struct TAlvo {
+        int coluna;
+        bool texto;
+        Variant valor;
+        QString procurado;
+    };
+    std::vector<TAlvo> alvos;
+    const QStringList lista = nomes.split(u';', Qt::SkipEmptyParts);
+    for (qsizetype i = 0; i < lista.size() && i < qsizetype(valores.size()); ++i) {
+        const TField *campo = FieldByName(lista[i]);
+        const Variant &valor = valores[size_t(i)];
+        const bool nulo = valor.EhNulo() || valor.EhNaoAtribuido();
+        const bool texto = EhTexto(campo->DataType()) && !nulo;
+        const QString procurado = texto ? valor.AsString() : QString();
+        alvos.push_back({ColunaDoCampo(*campo), texto, nulo ? Null : valor,
+                         dobrar ? TColacao::Dobrar(procurado) : procurado});
+    }
+    const auto serve = [&](int slot, const TAlvo &alvo) {
+        if (!alvo.texto || d->linhas.Nula(slot, alvo.coluna))
+            return d->linhas.Valor(slot, alvo.coluna) == alvo.valor;
+        const QAnyStringView cru = d->linhas.Texto(slot, alvo.coluna);
+        if (!dobrar && !(opcoes & loPartialKey))
+            return cru == QAnyStringView(alvo.procurado);
+        const QString texto = dobrar ? TColacao::Dobrar(cru) : cru.toString();
+        return opcoes & loPartialKey ? texto.startsWith(alvo.procurado) : texto == alvo.procurado;
+    };
+    const auto achado = std::find_if(d->visiveis.begin(), d->visiveis.end(), [&](int slot) {
+        return std::all_of(alvos.begin(), alvos.end(),
+                           [&](const TAlvo &alvo) { return serve(slot, alvo); });
+    });
+    if (alvos.empty() || achado == d->visiveis.end())
+        return false;
+    MoveBy(int(achado - d->visiveis.begin()) + 1 - RecNo());
+    return true;
+}
+
+TBookmark TClientDataSet::GetBookmark() const
+{
+    return RecNo() > 0 ? TBookmark{d->ids[size_t(SlotAtual())]} : TBookmark();
+}
+
+bool TClientDataSet::BookmarkValid(TBookmark marca) const
+{
+    return marca.id != 0 && std::find(d->ids.begin(), d->ids.end(), marca.id) != d->ids.end();
+}
+
+bool TClientDataSet::GotoBookmark(TBookmark marca)
+{
+    if (!Active() || !BookmarkValid(marca))
+        return false;
+    EncerrarEdicao();
+    const auto i = std::find(d->ids.begin(), d->ids.end(), marca.id);
+    const int linha = LinhaDo(int(i - d->ids.begin()));
+    if (linha == 0)
+        return false;
+    MoveBy(linha - RecNo());
+    return true;
+}
+
+qint64 TClientDataSet::BytesUsados() const
+{
+    qint64 soma = d->linhas.BytesUsados() + qint64(d->ids.capacity() * sizeof(quint32)) +
+                  qint64(d->visiveis.capacity() * sizeof(int));
+    for (const auto &guardada : d->ordens) {
+        soma += qint64(guardada.ordem.slots.capacity() * sizeof(int)) +
+                qint64(guardada.ordem.igual.capacity() / 8);
+    }
+    return soma;
+}
+
+void TClientDataSet::AbrirLinhas()
+{
+    ExigirCriado();
+    DefinirColunas(definicoes);
+    estado = dsBrowse;
+    Refazer();
+}
+
+void TClientDataSet::FecharLinhas()
+{
+    SairDaEdicao();
+    estado = dsInactive;
+    d->visiveis = {};
+    d->ordens.clear();
+}
+
+int TClientDataSet::ContarLinhas() const
+{
+    return int(d->visiveis.size());
+}
+
+bool TClientDataSet::CelulaNula(int linha, int coluna) const
+{
+    const int slot = SlotDa(linha);
+    return slot < 0 ? d->escrita[size_t(coluna)].EhNulo() : d->linhas.Nula(slot, coluna);
+}
+
+Variant TClientDataSet::CelulaValor(int linha, int coluna) const
+{
+    const int slot = SlotDa(linha);
+    return slot < 0 ? d->escrita[size_t(coluna)] : d->linhas.Valor(slot, coluna);
+}
+
+QString TClientDataSet::CelulaTexto(int linha, int coluna) const
+{
+    const int slot = SlotDa(linha);
+    if (slot >= 0 && d->linhas.EhTexto(coluna))
+        return d->linhas.Texto(slot, coluna).toString();
+    const Variant valor = CelulaValor(linha, coluna);
+    return definicoes[size_t(coluna)].tipo == TFieldType::ftTime && valor.EhDataHora()
+               ? valor.AsDateTime().Hora().toString(QStringLiteral("HH:mm:ss"))
+               : valor.AsString();
+}
+
+void TClientDataSet::GravarCelula(const TField &campo, const Variant &valor)
+{
+    if (estado != dsEdit && estado != dsInsert)
+        Recusar(QStringLiteral("O campo '%1' só pode ser escrito durante uma edição.")
+                    .arg(campo.FieldName()));
+    d->escrita[size_t(ColunaDoCampo(campo))] = Converter(campo, valor);
+    d->modificada = true;
+}
+
+void TClientDataSet::EncerrarEdicao()
+{
+    if (estado != dsEdit && estado != dsInsert)
+        return;
+    if (d->modificada)
+        Post();
+    else
+        Cancel();
+}
+
+void TClientDataSet::AntesDeHabilitar()
+{
+    if (d->desordenado)
+        Reordenar();
+}
+
+const TIndexDef *TClientDataSet::Indice(const QString &nome) const
+{
+    const auto i = std::find_if(indices.begin(), indices.end(),
+                                [&](const TIndexDef &indice) { return indice.Nome == nome; });
+    return i == indices.end() ? nullptr : &*i;
+}
+
+TCriterio TClientDataSet::CriterioDe(const TIndexDef &indice) const
+{
+    TCriterio criterio{{}, (indice.Opcoes & ixCaseInsensitive) != 0};
+    for (const QString &nome : indice.Campos)
+        criterio.colunas.push_back(ColunaDoCampo(*FieldByName(nome)));
+    return criterio;
+}
+
+void TClientDataSet::ExigirCriado() const
+{
+    if (!criado)
+        Recusar(QStringLiteral("O dataset ainda não foi criado."));
+}
+
+void TClientDataSet::ExigirAberto() const
+{
+    if (!Active())
+        Recusar(QStringLiteral("O dataset está fechado."));
+}
+
+void TClientDataSet::EntrarEm(TDataSetState novo)
+{
+    estado = novo;
+    d->modificada = false;
+    d->aparte = -1;
+    SetLinhaDosCampos(LinhaAparte);
+}
+
+void TClientDataSet::SairDaEdicao()
+{
+    if (estado == dsEdit || estado == dsInsert)
+        estado = dsBrowse;
+    d->modificada = false;
+    SetLinhaDosCampos(0);
+}
+
+/** A value as its column holds it. */
+Variant TClientDataSet::Converter(const TField &campo, const Variant &valor) const
+{
+    if (valor.EhNulo() || valor.EhNaoAtribuido())
+        return Null;
+    switch (campo.DataType()) {
+    case TFieldType::ftString:
+    case TFieldType::ftMemo: {
+        QString texto = valor.AsString();
+        if (campo.Size() > 0 && texto.size() > campo.Size()) {
+            throw EDatabaseError(TErroBanco::ValorMuitoLongo,
+                                 QStringLiteral("O valor do campo '%1' passa de %2 caracteres.")
+                                     .arg(campo.DisplayLabel())
+                                     .arg(campo.Size()));
+        }
+        return texto;
+    }
+    case TFieldType::ftSmallint:
+    case TFieldType::ftInteger:
+        return valor.AsInteger();
+    case TFieldType::ftBoolean:
+        return valor.AsFloat() != 0 ? 1 : 0;
+    case TFieldType::ftFloat:
+        return valor.AsFloat();
+    default:
+        return valor.AsDateTime();
+    }
+}
+
+int TClientDataSet::SlotAtual() const
+{
+    return RecNo() > 0 ? d->visiveis[size_t(RecNo() - 1)] : -1;
+}
+
+/** The slot behind a row number from 0; -1 for the row under edit. */
+int TClientDataSet::SlotDa(int linha) const
+{
+    return linha == LinhaAparte - 1 ? d->aparte : d->visiveis[size_t(linha)];
+}
+
+/** The row number of a slot in the list shown, 0 when it is not there. */
+int TClientDataSet::LinhaDo(int slot) const
+{
+    const auto i = std::find(d->visiveis.begin(), d->visiveis.end(), slot);
+    return i == d->visiveis.end() ? 0 : int(i - d->visiveis.begin()) + 1;
+}
+
+/** Order or filter changed: the list is made anew around the current row. */
+void TClientDataSet::Reordenar()
+{
+    if (!Active())
+        return;
+    EncerrarEdicao();
+    const int slot = SlotAtual();
+    Refazer();
+    FicarEm(slot);
+}
+
+/** Makes the list shown from the order and the filter. */
+void TClientDataSet::Refazer()
+{
+    std::vector<int> novas;
+    if (const TIndexDef *indice = Indice(indexName)) {
+        const TOrdem &ordem = d->Ordem(CriterioDe(*indice));
+        novas = indice->Opcoes & ixDescending ? ordem.Decrescente() : ordem.slots;
+    } else {
+        novas = d->Vivas();
+    }
+    if (filtrado)
+        std::erase_if(novas, [this](int slot) { return !Passa(slot); });
+    d->visiveis = std::move(novas);
+    d->desordenado = false;
+}
+
+/** Whether the filters let a row through, its values being the fields' meanwhile. */
+bool TClientDataSet::Passa(int slot)
+{
+    if (!d->filtroDeTexto && !d->pergunta)
+        return true;
+    struct TAparte {
+        TClientDataSet *dataset;
+        ~TAparte() { dataset->SetLinhaDosCampos(0); }
+    } const guarda{this};
+    d->aparte = slot;
+    SetLinhaDosCampos(LinhaAparte);
+    return (!d->filtroDeTexto || d->filtroDeTexto()) && (!d->pergunta || d->pergunta(*this));
+}
+
+/** Puts a row that is not in the list where it belongs and makes it current. */
+void TClientDataSet::Colocar(int slot)
+{
+    if (filtrado && !Passa(slot)) {
+        Renumerar(d->visiveis.empty() ? 0 : 1);
+        return;
+    }
+    const TIndexDef *indice = Indice(indexName);
+    auto onde = d->visiveis.end();
+    if (indice && ControlsDisabled()) {
+        d->desordenado = true;
+    } else if (indice) {
+        const TCriterio criterio = CriterioDe(*indice);
+        const int sentido = indice->Opcoes & ixDescending ? -1 : 1;
+        onde = std::upper_bound(
+            d->visiveis.begin(), d->visiveis.end(), slot, [&](int este, int outro) {
+                const int r = CompararLinhas(d->linhas, este, outro, criterio) * sentido;
+                return r != 0 ? r < 0 : este < outro;
+            });
+    } else if (!d->visiveis.empty() && d->visiveis.back() > slot) {
+        onde = std::upper_bound(d->visiveis.begin(), d->visiveis.end(), slot);
+    }
+    onde = d->visiveis.insert(onde, slot);
+    Renumerar(int(onde - d->visiveis.begin()) + 1);
+}
+
+/** After the list was made anew: the row stays current, or the first one becomes it. */
+void TClientDataSet::FicarEm(int slot)
+{
+    const int linha = slot >= 0 ? LinhaDo(slot) : 0;
+    Renumerar(linha > 0 ? linha : d->visiveis.empty() ? 0 : 1);
+    AvisarDados();
+    if (SlotAtual() != slot)
+        AvisarRolagem();
+}
+
+/** Deleted rows are given up once they outnumber the living. */
+void TClientDataSet::CompactarSeValer()
+{
+    if (d->mortos <= PoucosMortos || size_t(d->mortos) * 2 < d->ids.size())
+        return;
+    const std::vector<int> vivas = d->Vivas();
+    std::vector<int> novo(d->ids.size(), -1);
+    for (size_t i = 0; i < vivas.size(); ++i)
+        novo[size_t(vivas[i])] = int(i);
+    d->linhas.Manter(vivas);
+    std::erase(d->ids, 0u);
+    for (int &slot : d->visiveis)
+        slot = novo[size_t(slot)];
+    d->mortos = 0;
+}
+
+} // namespace ficha
