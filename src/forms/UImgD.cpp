@@ -12,10 +12,29 @@ namespace
 {
 
 constexpr std::pair<int, const char *> Figuras[] = {
-    {1, "ampliar"},     {2, "confirmar"},  {3, "cancelar"},  {9, "desfazer"},
-    {10, "confirmar"},  {16, "campos"},    {17, "desfazer"}, {19, "config-impressao"},
-    {20, "imprimir"},   {29, "lista"},     {30, "excluir"},  {45, "inserir"},
-    {46, "alterar"},    {49, "localizar"}, {50, "filtro"},   {51, "relatorios"},
+    {1, "ampliar"},
+    {2, "confirmar"},
+    {3, "cancelar"},
+    {9, "desfazer"},
+    {10, "confirmar"},
+    {16, "campos"},
+    {17, "desfazer"},
+    {19, "config-impressao"},
+    {20, "imprimir"},
+    {29, "lista"},
+    {30, "excluir"},
+    {31, "calendario-antes"},
+    {32, "calendario-depois"},
+    {33, "calendario-7dias"},
+    {34, "calendario-hoje"},
+    {35, "calendario"},
+    {36, "calendario-4semanas"},
+    {37, "calendario-todas"},
+    {45, "inserir"},
+    {46, "alterar"},
+    {49, "localizar"},
+    {50, "filtro"},
+    {51, "relatorios"},
     {52, "manutencao"},
 };
 

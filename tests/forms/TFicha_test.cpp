@@ -78,7 +78,8 @@ TEST(TFichaTest, TheHostImageModuleIsFilledWhereTheHostHasNone)
     {
         const TFicha biblioteca;
         ASSERT_NE(SisD().ImageList16, nullptr);
-        for (int i : {1, 2, 3, 9, 10, 16, 17, 19, 20, 29, 30, 45, 46, 49, 50, 51, 52}) {
+        for (int i : {1,  2,  3,  9,  10, 16, 17, 19, 20, 29, 30, 31,
+                      32, 33, 34, 35, 36, 37, 45, 46, 49, 50, 51, 52}) {
             EXPECT_TRUE(SisD().ImageList16->Tem(i)) << i;
             EXPECT_TRUE(SisD().DisImageList16->Tem(i)) << i;
         }

@@ -44,6 +44,9 @@ TEST_F(RadioButton, TheProgramsCheckIsAClick)
     EXPECT_EQ(cliques.last(), QStringLiteral("dois01")) << "the other is unchecked already";
     EXPECT_EQ(cliques.size(), 2) << "being unchecked is no click";
     EXPECT_TRUE(fora->isChecked()) << "another parent is another group";
+    fora->SetChecked(false);
+    fora->SetChecked(true);
+    EXPECT_TRUE(dois->isChecked()) << "a panel inside it too";
 }
 
 TEST_F(RadioButton, TheUsersClicksAndArrowsAreClicks)
@@ -59,6 +62,20 @@ TEST_F(RadioButton, TheUsersClicksAndArrowsAreClicks)
     EXPECT_EQ(QApplication::focusWidget(), dois);
 }
 
+TEST_F(RadioButton, TabStopsAtTheCheckedOneOnly)
+{
+    dois->SetChecked(true);
+    janela.Abrir();
+    fora->setFocus();
+    QTest::keyClick(fora, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), dois);
+    QTest::keyClick(dois, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), fora);
+    dois->SetChecked(false);
+    QTest::keyClick(fora, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), um) << "none is checked";
+}
+
 TEST_F(RadioButton, UncheckingLeavesNoneCheckedAndIsNoClick)
 {
     um->SetChecked(true);
@@ -69,6 +86,22 @@ TEST_F(RadioButton, UncheckingLeavesNoneCheckedAndIsNoClick)
     dois->SetChecked(true);
     um->SetChecked(true);
     EXPECT_FALSE(dois->isChecked()) << "and they exclude each other still";
+}
+
+TEST_F(RadioButton, ANewParentIsANewGroup)
+{
+    um->SetChecked(true);
+    um->setParent(&janela);
+    EXPECT_FALSE(um->isChecked() && fora->isChecked());
+    dois->SetChecked(true);
+    um->SetChecked(true);
+    EXPECT_TRUE(dois->isChecked());
+    EXPECT_FALSE(fora->isChecked());
+    TRadioButton solto;
+    solto.SetChecked(true);
+    EXPECT_TRUE(solto.isChecked());
+    solto.SetChecked(false);
+    EXPECT_FALSE(solto.isChecked());
 }
 
 TEST_F(RadioButton, PropertiesForLayouts)

@@ -70,6 +70,15 @@ TEST_F(TToolBarTeste, CaptionsAreShownBelowOrBesideThePictures)
     EXPECT_GT(botoes[1]->height(), 22);
     barra->SetList(true);
     EXPECT_EQ(botoes[0]->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+    const int precisa =
+        16 + 4 + botoes[1]->fontMetrics().size(Qt::TextShowMnemonic, botoes[1]->text()).width() + 4;
+    ASSERT_LT(precisa, botoes[1]->sizeHint().width());
+    barra->SetButtonWidth(precisa);
+    barra->Ajustar();
+    EXPECT_EQ(botoes[1]->width(), precisa) << "as wide as stated where all is seen";
+    barra->SetButtonWidth(precisa - 1);
+    barra->Ajustar();
+    EXPECT_GE(botoes[1]->width(), precisa) << "never cut";
 }
 
 TEST_F(TToolBarTeste, ClickExecutesTheActionAndTakesNoFocus)

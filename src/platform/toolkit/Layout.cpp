@@ -488,6 +488,11 @@ QLayoutItem *TConstrutor::FazerEspaco(const TPlanoCelula &c)
 /** The focusable widgets of a control in their present tab order: itself, or what it holds. */
 QList<QWidget *> Paradas(QWidget *controle)
 {
+    // A stop that hands the focus on to a part of its own (a calendar to its days) moves as a
+    // whole; left behind, it would be a second stop.
+    if ((controle->focusPolicy() & Qt::TabFocus) && controle->focusProxy() &&
+        controle->isAncestorOf(controle->focusProxy()))
+        return {controle};
     QList<QWidget *> paradas;
     QWidget *w = controle;
     do {

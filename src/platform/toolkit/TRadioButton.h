@@ -8,7 +8,8 @@ namespace ficha
 {
 
 /**
- * A radio button; those of one parent exclude each other.
+ * A radio button; those of one parent exclude each other. Tab stops at the checked one only (at
+ * each when none is); the arrows go to the others, and check them.
  *
  * Checking it, by user or program, has the effect of a click: OnClick, once, when the others are
  * unchecked already. Checking what is checked, and being unchecked, have none.
@@ -31,6 +32,13 @@ public:
     std::function<void(QObject *)> OnClick;
 
     int Tag = 0;
+
+protected:
+    bool event(QEvent *evento) override;
+
+private:
+    void Agrupar();
+    void Indicar();
 };
 
 } // namespace ficha

@@ -289,6 +289,17 @@ void TToolBar::SincronizarTodos()
     AgendarAjuste();
 }
 
+/** The least width that shows a picture and the caption beside it whole. */
+int TToolBar::LarguraLadoALado(const TToolButton *botao)
+{
+    constexpr int EntreOsDois = 4;
+    constexpr int Moldura = 2;
+    if (botao->toolButtonStyle() != Qt::ToolButtonTextBesideIcon)
+        return botao->sizeHint().width();
+    const QSize texto = botao->fontMetrics().size(Qt::TextShowMnemonic, botao->text());
+    return botao->iconSize().width() + EntreOsDois + texto.width() + 2 * Moldura;
+}
+
 QSize TToolBar::TamanhoDe(const TToolButton *botao) const
 {
     const TToolButton::Style tipo = botao->GetStyle();
@@ -298,6 +309,9 @@ QSize TToolBar::TamanhoDe(const TToolButton *botao) const
     if (!showCaptions)
         return s;
     s = s.expandedTo(botao->sizeHint());
+    // The style likes more air than a bar with a stated width may have room for.
+    if (LarguraLadoALado(botao) <= buttonWidth)
+        s.setWidth(buttonWidth);
     // A bar that is given less height than captions like keeps its buttons whole.
     if (testAttribute(Qt::WA_Resized) && contentsRect().height() >= buttonHeight)
         s.setHeight(qMin(s.height(), contentsRect().height()));

@@ -98,7 +98,8 @@ class TToolBar : public QFrame
 public:
     explicit TToolBar(QWidget *owner = nullptr);
 
-    /** Pixels; 23 at the start. With captions it is the least width. */
+    /** Pixels; 23 at the start. With captions it is the least width, and the width where picture
+     * and caption side by side fit it. */
     int GetButtonWidth() const { return buttonWidth; }
     void SetButtonWidth(int pixels);
     /** Pixels; 22 at the start. With captions below the pictures it is the least height. */
@@ -145,6 +146,7 @@ private:
     friend class TToolButton;
     void AgendarAjuste();
     void SincronizarTodos();
+    static int LarguraLadoALado(const TToolButton *botao);
     QSize TamanhoDe(const TToolButton *botao) const;
     QSize Dispor(int largura, bool mover) const;
 
