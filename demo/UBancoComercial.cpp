@@ -23,12 +23,58 @@ bool EhServidor(const QString &endereco)
     return endereco.contains(u':') && !QFileInfo::exists(endereco);
 }
 
-QString Esquema()
+QString Roteiro(const QString &nome)
 {
-    QFile arquivo(QStringLiteral(":/demo/schema.sql"));
+    QFile arquivo(QStringLiteral(":/demo/") + nome);
     if (!arquivo.open(QIODevice::ReadOnly))
-        throw EErro(QStringLiteral("O esquema do banco não está no programa"));
+        throw EErro(QStringLiteral("O roteiro '%1' não está no programa").arg(nome));
     return QString::fromUtf8(arquivo.readAll());
+}
+
+/** What a database of an earlier version lacks. A step is one transaction, and is done when its
+ * question has an answer. */
+struct TPasso {
+    const char *Feito;
+    void (*Fazer)(TSQLConnection &conexao);
+};
+
+template <const char *roteiro>
+void ExecutarRoteiro(TSQLConnection &conexao)
+{
+    conexao.EmTransacao([&] { conexao.ExecutarScript(Roteiro(QString::fromLatin1(roteiro))); });
+}
+
+constexpr char EsquemaDoGuia[] = "schema-guia.sql";
+constexpr char EsquemaDosClientes[] = "schema-clientes.sql";
+
+constexpr TPasso Passos[] = {
+    {"select 1 from rdb$relations where rdb$relation_name = 'CEP_UF'",
+     &ExecutarRoteiro<EsquemaDoGuia>},
+    {"select first 1 1 from cep_uf", &InserirGuiaDeExemplo},
+    {"select 1 from rdb$relations where rdb$relation_name = 'CLIENTES'",
+     &ExecutarRoteiro<EsquemaDosClientes>},
+};
+
+bool Feito(TSQLConnection &conexao, const TPasso &passo)
+{
+    TCustomBRQuery pergunta;
+    pergunta.Query().SetSQLConnection(&conexao);
+    return pergunta.Open(QString::fromLatin1(passo.Feito));
+}
+
+void TrazerAoDia(TSQLConnection &conexao)
+{
+    for (const TPasso &passo : Passos) {
+        if (Feito(conexao, passo))
+            continue;
+        try {
+            passo.Fazer(conexao);
+        } catch (const EDatabaseError &) {
+            // Another workstation may have been faster.
+            if (!conexao.Connected() || !Feito(conexao, passo))
+                throw;
+        }
+    }
 }
 
 /** Makes the database under another name and renames it when it is whole, so that a first run that
@@ -40,9 +86,9 @@ void CriarComDados(const QString &arquivo)
     TSQLConnection criacao;
     criacao.DatabaseName = novo;
     try {
-        criacao.CriarBanco(Esquema());
+        criacao.CriarBanco(Roteiro(QStringLiteral("schema.sql")));
         PrepararBanco(criacao);
-        InserirGuiaDeExemplo(criacao);
+        TrazerAoDia(criacao);
         InserirDadosDeExemplo(criacao);
         criacao.Close();
     } catch (...) {
@@ -83,6 +129,7 @@ void AbrirBancoComercial(TSQLConnection &conexao, const QString &endereco)
     conexao.Open();
     if (!conexao.Embutido())
         PrepararBanco(conexao);
+    TrazerAoDia(conexao);
     ConexD().SQLConnection = &conexao;
 }
 

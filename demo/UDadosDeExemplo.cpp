@@ -1,5 +1,7 @@
 #include "demo/UDadosDeExemplo.h"
 
+#include "demo/UClientesDeExemplo.h"
+#include "platform/core/Documentos.h"
 #include "platform/database/TSQLConnection.h"
 #include "platform/support/Textos.h"
 
@@ -62,6 +64,14 @@ void InserirGrupo(TSQLConnection &conexao, int codigo, const TGrupoDeExemplo &gr
                          .arg(QuotedStr(QString::fromUtf16(grupo.Descricao))));
 }
 
+/** EAN-13 of an invented maker for each group. */
+QString CodigoDeBarras(int codigo, int grupo)
+{
+    const QString corpo =
+        QStringLiteral("789%1%2").arg(10310 + grupo * 37).arg(codigo, 4, 10, QChar(u'0'));
+    return corpo + DigitoGTIN(corpo);
+}
+
 void InserirProduto(TSQLConnection &conexao, int codigo, int grupo, const QString &descricao,
                     char unidade)
 {
@@ -70,13 +80,13 @@ void InserirProduto(TSQLConnection &conexao, int codigo, int grupo, const QStrin
     const int estoque = codigo * 37 % 240;
     conexao.Executar(
         QStringLiteral("insert into produtos (produtos_cod, descricao, grupos_cod, preco, estoque, "
-                       "unidade, ativo, observacao) values (%1, %2, %3, %4.%5, %6, %7, %8, %9)")
+                       "unidade, ativo, cod_barras) values (%1, %2, %3, %4.%5, %6, %7, %8, %9)")
             .arg(QString::number(codigo), QuotedStr(descricao), QString::number(grupo),
                  QString::number(centavos / 100),
                  QStringLiteral("%1").arg(centavos % 100, 2, 10, QChar(u'0')),
                  QString::number(estoque), QuotedStr(QString(QChar::fromLatin1(unidade))),
                  QuotedStr(codigo % 17 == 0 ? QStringLiteral("N") : QStringLiteral("S")),
-                 QStringLiteral("null")));
+                 QuotedStr(CodigoDeBarras(codigo, grupo))));
 }
 
 } // namespace
@@ -97,6 +107,7 @@ void InserirDadosDeExemplo(TSQLConnection &conexao)
         }
         conexao.Executar(QStringLiteral("set generator grupos_cod_gen to %1").arg(grupo));
         conexao.Executar(QStringLiteral("set generator produtos_cod_gen to %1").arg(produto));
+        InserirClientesDeExemplo(conexao);
     });
 }
 
