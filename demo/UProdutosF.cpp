@@ -18,6 +18,7 @@ void TProdutosF::PegarComponentes()
     TTabLinearBasF::PegarComponentes();
     Pegar(this, CodFr, "CodFr");
     Pegar(this, DescrFr, "DescrFr");
+    Pegar(this, CodBarrasFr, "CodBarrasFr");
     Pegar(this, GrupoFr, "GrupoFr");
     Pegar(this, PrecoFr, "PrecoFr");
     Pegar(this, EstoqueFr, "EstoqueFr");
@@ -30,7 +31,7 @@ void TProdutosF::FormCreate(QObject *sender)
 {
     SQLQuery1->SetSQL(QStringLiteral(
         "select p.produtos_cod, p.descricao, p.grupos_cod, g.descricao as grupo, p.preco, "
-        "p.estoque, p.unidade, p.ativo, p.observacao from produtos p "
+        "p.estoque, p.unidade, p.ativo, p.observacao, p.cod_barras from produtos p "
         "join grupos g on g.grupos_cod = p.grupos_cod order by p.descricao"));
     TTabLinearBasF::FormCreate(sender);
     GrupoFr->SetSQLText(
@@ -44,9 +45,11 @@ void TProdutosF::FormCreate(QObject *sender)
 void TProdutosF::Rotular()
 {
     const std::pair<const char *, const char16_t *> rotulos[] = {
-        {"produtos_cod", u"Código"}, {"descricao", u"Descrição"}, {"grupos_cod", u"Grupo"},
-        {"grupo", u"Grupo"},         {"preco", u"Preço"},         {"estoque", u"Estoque"},
-        {"unidade", u"Unidade"},     {"ativo", u"Ativo"},         {"observacao", u"Observação"},
+        {"produtos_cod", u"Código"},   {"descricao", u"Descrição"},
+        {"grupos_cod", u"Grupo"},      {"grupo", u"Grupo"},
+        {"preco", u"Preço"},           {"estoque", u"Estoque"},
+        {"unidade", u"Unidade"},       {"ativo", u"Ativo"},
+        {"observacao", u"Observação"}, {"cod_barras", u"Código de barras"},
     };
     for (const auto &[campo, rotulo] : rotulos)
         SQLQuery1->FieldByName(campo)->SetDisplayLabel(QString::fromUtf16(rotulo));
@@ -73,18 +76,20 @@ void TProdutosF::PrepararTab()
     for (int i = 0; i < unidades.size(); ++i)
         unidade->ListaChar->Add(unidades[i], i + 33);
     Tab->PegarCampo(q->FieldByName("ativo"), 44, AtivoFr);
+    Tab->PegarCampo(q->FieldByName("cod_barras"), 100, CodBarrasFr);
     Tab->PegarCampo(q->FieldByName("observacao"), 0, ObservacaoFr)->Visivel = false;
 }
 
 void TProdutosF::AntesInserir()
 {
-    SQLInserir = QStringLiteral("insert into produtos (produtos_cod, descricao, grupos_cod, preco, "
-                                "estoque, unidade, ativo, observacao) values (") +
-                 QStringList({StringProxCod(), DescrFr->SQLString(), GrupoFr->SQLString(),
-                              PrecoFr->SQLString(), EstoqueFr->SQLString(), UnidadeFr->SQLString(),
-                              AtivoFr->SQLString(), ObservacaoFr->SQLString()})
-                     .join(QStringLiteral(", ")) +
-                 u')';
+    SQLInserir =
+        QStringLiteral("insert into produtos (produtos_cod, descricao, grupos_cod, preco, "
+                       "estoque, unidade, ativo, cod_barras, observacao) values (") +
+        QStringList({StringProxCod(), DescrFr->SQLString(), GrupoFr->SQLString(),
+                     PrecoFr->SQLString(), EstoqueFr->SQLString(), UnidadeFr->SQLString(),
+                     AtivoFr->SQLString(), CodBarrasFr->SQLString(), ObservacaoFr->SQLString()})
+            .join(QStringLiteral(", ")) +
+        u')';
     SQLUltimoInserido =
         QStringLiteral("select produtos_cod from produtos where descricao=") + DescrFr->SQLString();
 }
@@ -96,6 +101,7 @@ void TProdutosF::AntesAlterar()
                  QStringLiteral(", preco=") + PrecoFr->SQLString() + QStringLiteral(", estoque=") +
                  EstoqueFr->SQLString() + QStringLiteral(", unidade=") + UnidadeFr->SQLString() +
                  QStringLiteral(", ativo=") + AtivoFr->SQLString() +
+                 QStringLiteral(", cod_barras=") + CodBarrasFr->SQLString() +
                  QStringLiteral(", observacao=") + ObservacaoFr->SQLString();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/UTabLinearBasF.h"
+#include "input/UBarCodBasFr.h"
 #include "input/UCheckBoxBasFr.h"
 #include "input/UComboBoxCodBasFr.h"
 #include "input/UDescrReduzLabeledEditTextoBasFr.h"
@@ -34,6 +35,7 @@ private:
 
     ficha::TNumEditBRCodBasFr *CodFr = nullptr;
     ficha::TDescrReduzLabeledEditTextoBasFr *DescrFr = nullptr;
+    ficha::TBarCodBasFr *CodBarrasFr = nullptr;
     ficha::TComboBoxCodBasFr *GrupoFr = nullptr;
     ficha::TNumEditBRBasFr *PrecoFr = nullptr;
     ficha::TNumEditBRBasFr *EstoqueFr = nullptr;
