@@ -115,6 +115,56 @@ TEST_F(Fone, InsertsInTheMiddle)
     EXPECT_EQ(fone->cursorPosition(), 1);
 }
 
+TEST_F(Fone, ACompleteOneIsTypedOverInTheMiddle)
+{
+    fone->SetText(QStringLiteral("987654321"));
+    fone->setCursorPosition(4);
+    Teclar(QStringLiteral("00"));
+    EXPECT_EQ(fone->GetText(), QStringLiteral("98760-0321"));
+    EXPECT_EQ(fone->cursorPosition(), 7);
+    fone->end(false);
+    Teclar(QStringLiteral("1"));
+    EXPECT_EQ(fone->GetText(), QStringLiteral("98760-0321"));
+}
+
+TEST_F(Fone, AWholePastedNumberReplacesWhatStandsThere)
+{
+    fone->SetText(QStringLiteral("ramal 23"));
+    ColarTexto(fone, QStringLiteral("98765-4321"));
+    EXPECT_EQ(fone->GetText(), QStringLiteral("98765-4321"));
+    fone->setCursorPosition(3);
+    ColarTexto(fone, QStringLiteral("3234 5678"));
+    EXPECT_EQ(fone->GetText(), QStringLiteral("3234-5678"));
+    EXPECT_TRUE(avisos.textos.isEmpty());
+}
+
+TEST_F(Fone, EnteredFromTheProgramEverythingIsSelected)
+{
+    fone->SetText(QStringLiteral("32345678"));
+    janela.Abrir();
+    outro->setFocus();
+    fone->setFocus();
+    EXPECT_EQ(fone->selectedText(), QStringLiteral("3234-5678"));
+    outro->setFocus();
+    fone->SetAutoSelect(false);
+    fone->setFocus();
+    EXPECT_FALSE(fone->hasSelectedText());
+}
+
+TEST_F(Fone, AKeyThatAHandlerTakesBackDoesNotLeave)
+{
+    fone->SetAutoExit(true);
+    fone->SetText(QStringLiteral("98765-4321"));
+    janela.Abrir();
+    fone->setFocus();
+    QObject::connect(fone, &QLineEdit::textEdited, fone,
+                     [this] { fone->SetText(QStringLiteral("98765-4321")); });
+    fone->setCursorPosition(9);
+    Teclar(QStringLiteral("9"));
+    EXPECT_TRUE(fone->hasFocus());
+    EXPECT_EQ(fone->GetText(), QStringLiteral("98765-4321"));
+}
+
 TEST_F(Fone, PastesNumbersAndRefusesTheRest)
 {
     ColarTexto(fone, QStringLiteral("98765 4321"));

@@ -355,3 +355,25 @@ TEST_F(Mascarado, ReadOnlyTakesNothing)
     ColarTexto(&edit, QStringLiteral("9"));
     EXPECT_EQ(edit.GetText(), QStringLiteral("01"));
 }
+
+TEST_F(Mascarado, EnteredWithoutASelectionTheCaretIsWhereTypingBegins)
+{
+    TJanela janela;
+    auto *data = new TMaskEdit(&janela);
+    data->SetEditMask(QStringLiteral("99/99/99;0;_"));
+    auto *outro = new QLineEdit(&janela);
+    outro->move(100, 0);
+    janela.Abrir();
+    const auto entrar = [&](const QString &texto) {
+        data->SetText(texto);
+        outro->setFocus();
+        data->setFocus();
+        return data->cursorPosition();
+    };
+    EXPECT_EQ(entrar(QString()), 0);
+    EXPECT_EQ(entrar(QStringLiteral("0102")), 6);
+    EXPECT_EQ(entrar(QStringLiteral("010203")), 0);
+    QTest::keyClicks(data, QStringLiteral("311299"));
+    EXPECT_EQ(data->GetText(), QStringLiteral("311299"));
+    EXPECT_EQ(entrar(QStringLiteral("01022003")), 10) << "a rest behind the mask is not typed over";
+}

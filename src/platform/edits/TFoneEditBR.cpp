@@ -58,7 +58,7 @@ bool TFoneEditBR::TemLugar(const QString &nu) const
 bool TFoneEditBR::Completo(const QString &nu) const
 {
     const bool fixo = !nu.isEmpty() && nu.front() >= u'2' && nu.front() <= u'5';
-    return nu.size() == (fixo ? DigitosFixo : DigitosCelular);
+    return nu.size() == DigitosCelular || (fixo && nu.size() == DigitosFixo);
 }
 
 bool TFoneEditBR::FormataDoPrograma(const QString &texto) const

@@ -4,6 +4,8 @@
 #include "platform/toolkit/Foco.h"
 #include "platform/toolkit/Layout.h"
 
+#include <utility>
+
 namespace ficha
 {
 
@@ -57,10 +59,13 @@ TCustomEdit::TResposta TMaskEditBR::Digitar(const TEstado &antes, const QString 
 void TMaskEditBR::AposDigitar()
 {
     TCustomMaskEdit::AposDigitar();
-    if (digitouUltimo && OnLastType) {
-        digitouUltimo = false;
+    if (!std::exchange(digitouUltimo, false))
+        return;
+    const QPointer<TMaskEditBR> vivo(this);
+    if (OnLastType)
         Protegido([this] { OnLastType(this); });
-    }
+    if (vivo && autoExit && hasFocus() && Mascara().TudoPreenchido(GetEditText()))
+        focusNextPrevChild(true);
 }
 
 } // namespace ficha

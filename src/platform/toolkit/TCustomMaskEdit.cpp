@@ -130,8 +130,12 @@ void TCustomMaskEdit::focusInEvent(QFocusEvent *evento)
     TCustomEdit::focusInEvent(evento);
     const Qt::FocusReason motivo = evento->reason();
     const bool voltou = motivo == Qt::ActiveWindowFocusReason || motivo == Qt::PopupFocusReason;
-    if (IsMasked() && !voltou && motivo != Qt::MouseFocusReason && !hasSelectedText())
-        setCursorPosition(mascara.PrimeiroVazio(TextoExibido()));
+    if (!IsMasked() || voltou || motivo == Qt::MouseFocusReason || hasSelectedText())
+        return;
+    // Behind the last filled place no key would do anything: what is full is typed over from its
+    // beginning. A text with more than the mask's places is not, its rest would stay.
+    const int vazio = mascara.PrimeiroVazio(TextoExibido());
+    setCursorPosition(vazio == mascara.Tamanho() ? mascara.Proximo(0) : vazio);
 }
 
 void TCustomMaskEdit::mouseReleaseEvent(QMouseEvent *evento)

@@ -18,7 +18,9 @@ namespace ficha
  * Typing fills the place at the caret, whatever it holds, and passes over literals; a literal typed
  * moves behind the next one of its kind. Backspace and Delete empty places; nothing shifts. A
  * pasted text may have its literals or not; one that does not fit is refused whole with a warning.
- * maxLength does not bind where there is a mask.
+ * maxLength does not bind where there is a mask. Entering other than by a click, and without
+ * selecting everything, puts the caret into the first empty place, or the first of all where none
+ * is empty.
  */
 class TCustomMaskEdit : public TCustomEdit
 {
