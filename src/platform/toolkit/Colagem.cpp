@@ -34,7 +34,8 @@ void AoColar(TCustomEdit *edit, std::function<QString(QString &texto)> handler)
 QString PassarColagem(const TCustomEdit &edit, QString &texto)
 {
     QString recusa;
-    const QObjectList filhos = edit.children();
+    const auto filhos =
+        edit.findChildren<QObject *>(QStringLiteral("ficha_colagem"), Qt::FindDirectChildrenOnly);
     for (QObject *filho : filhos) {
         auto *filtro = dynamic_cast<TFiltroDeColagem *>(filho);
         if (!filtro)
