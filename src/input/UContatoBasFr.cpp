@@ -95,10 +95,6 @@ void TContatoBasFr::DDDNumEditBRKeyDown(QObject *, int &tecla, Qt::KeyboardModif
 void TContatoBasFr::EditEnter(QObject *sender)
 {
     static_cast<TCustomEdit *>(sender)->SetColor(SisD().CorControlSelec);
-    // With the caret behind its last digit, a complete code could not be typed over.
-    if (sender == DDDMaskEditBR &&
-        DDDMaskEditBR->Mascara().TudoPreenchido(DDDMaskEditBR->GetEditText()))
-        DDDMaskEditBR->setCursorPosition(0);
 }
 
 void TContatoBasFr::EditExit(QObject *sender)

@@ -56,9 +56,8 @@ protected:
     /** No component's; for descendants whose area code is another edit. */
     virtual void DDDNumEditBRKeyDown(QObject *sender, int &tecla, Qt::KeyboardModifiers estado);
 
-    /** Paint the entered or left edit, the sender, with the host's colours. A complete area code
-     * entered without a click is typed over from its beginning. The page runs EditEnter only and
-     * keeps the colour when it is left (kept as it is). */
+    /** Paint the entered or left edit, the sender, with the host's colours. The page runs EditEnter
+     * only and keeps the colour when it is left (kept as it is). */
     virtual void EditEnter(QObject *sender);
     virtual void EditExit(QObject *sender);
 
