@@ -7,6 +7,7 @@
 #include <QSpinBox>
 #include <QTableView>
 #include <QToolButton>
+#include <QWheelEvent>
 
 using namespace ficha;
 using namespace ficha::testes;
@@ -176,6 +177,12 @@ TEST_F(MonthCalendar, TurningThePageTakesTheSelectedDayAlong)
     botao("qt_calendar_monthbutton")->menu()->actions().at(10)->trigger();
     EXPECT_EQ(cal->GetDate().TextoData(), QStringLiteral("29/11/2024"));
     EXPECT_EQ(cliques, 3);
+    const QPointF meio = grade->viewport()->rect().center();
+    QWheelEvent roda(meio, grade->viewport()->mapToGlobal(meio), {}, {0, -120}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(grade->viewport(), &roda);
+    EXPECT_EQ(cal->GetDate().TextoData(), QStringLiteral("29/12/2024"));
+    EXPECT_EQ(cliques, 4);
 }
 
 TEST_F(MonthCalendar, EnterInTheYearEndsItsEditingAndNothingElse)
