@@ -27,8 +27,7 @@ QString Marcas(TBevel::Shape forma, TBevel::Style estilo = TBevel::bsLowered)
         const QColor aqui = foto.pixelColor(x, y);
         return QChar(aqui == Qt::black ? u'p' : aqui == Qt::white ? u'b' : u'.');
     };
-    return QString() + ponto(0, 10) + ponto(10, 0) + ponto(19, 10) + ponto(10, 19) +
-           ponto(10, 10);
+    return QString() + ponto(0, 10) + ponto(10, 0) + ponto(19, 10) + ponto(10, 19) + ponto(10, 10);
 }
 
 } // namespace
