@@ -78,8 +78,7 @@ TMonthCalendar::TMonthCalendar(QWidget *owner) : QCalendarWidget(owner)
     ArrumarBarra();
     SetDate(Hoje());
     Ligar(this, &QCalendarWidget::selectionChanged, this, [this] { Escolhido(); });
-    Ligar(this, &QCalendarWidget::currentPageChanged, this,
-          [this](int ano, int mes) { PaginaVirada(ano, mes); });
+    Ligar(this, &QCalendarWidget::currentPageChanged, this, [this] { PaginaVirada(); });
 }
 
 void TMonthCalendar::SetDate(TDateTime dia)
@@ -185,13 +184,15 @@ bool TMonthCalendar::CliqueDuplo(const QMouseEvent &evento)
     return true;
 }
 
-void TMonthCalendar::PaginaVirada(int ano, int mes)
+/** The selected day goes to the month that is shown now. */
+void TMonthCalendar::PaginaVirada()
 {
     const QDate atual = selectedDate();
-    if (atual.year() == ano && atual.month() == mes)
+    const QDate primeiro(yearShown(), monthShown(), 1);
+    if (atual.year() == primeiro.year() && atual.month() == primeiro.month())
         return;
-    const int ultimo = QDate(ano, mes, 1).daysInMonth();
-    QCalendarWidget::setSelectedDate(QDate(ano, mes, std::min(atual.day(), ultimo)));
+    const int dia = std::min(atual.day(), primeiro.daysInMonth());
+    QCalendarWidget::setSelectedDate(primeiro.addDays(dia - 1));
 }
 
 void TMonthCalendar::Escolhido()

@@ -53,7 +53,7 @@ private:
     void ArrumarBarra();
     bool TeclaNaGrade(QKeyEvent &evento);
     bool CliqueDuplo(const QMouseEvent &evento);
-    void PaginaVirada(int ano, int mes);
+    void PaginaVirada();
     void Escolhido();
 
     QTableView *grade = nullptr;

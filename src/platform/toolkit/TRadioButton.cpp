@@ -30,9 +30,9 @@ TRadioButton::TRadioButton(QWidget *owner) : QRadioButton(owner)
 {
     setAutoExclusive(false); // the group sees to it
     Agrupar();
-    Ligar(this, &QRadioButton::toggled, this, [this](bool marcado) {
+    Ligar(this, &QRadioButton::toggled, this, [this] {
         Indicar();
-        if (marcado && OnClick)
+        if (isChecked() && OnClick)
             OnClick(this);
     });
 }
