@@ -14,6 +14,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QRegularExpression>
 #include <QScopedValueRollback>
@@ -272,6 +273,12 @@ void TDateTimePicker::stepBy(int passos)
         Anunciar(mdPasso);
 }
 
+/** What is being typed need not be a date. */
+QValidator::State TDateTimePicker::validate(QString &texto, int &cursor) const
+{
+    return rascunho ? QValidator::Acceptable : QDateEdit::validate(texto, cursor);
+}
+
 QAbstractSpinBox::StepEnabled TDateTimePicker::stepEnabled() const
 {
     return isReadOnly() ? StepEnabled(StepNone) : StepUpEnabled | StepDownEnabled;
@@ -281,6 +288,16 @@ QAbstractSpinBox::StepEnabled TDateTimePicker::stepEnabled() const
 bool TDateTimePicker::focusNextPrevChild(bool seguinte)
 {
     return QWidget::focusNextPrevChild(seguinte);
+}
+
+bool TDateTimePicker::event(QEvent *evento)
+{
+    // The inner edit would take it past the field's own rules.
+    if (evento->type() == QEvent::InputMethod) {
+        inputMethodEvent(static_cast<QInputMethodEvent *>(evento));
+        return true;
+    }
+    return QDateEdit::event(evento);
 }
 
 bool TDateTimePicker::eventFilter(QObject *alvo, QEvent *evento)
@@ -307,7 +324,7 @@ bool TDateTimePicker::eventFilter(QObject *alvo, QEvent *evento)
 
 void TDateTimePicker::keyPressEvent(QKeyEvent *evento)
 {
-    if (TeclaDeComando(evento))
+    if (TeclaDeComando(evento) || TeclaDeParte(*evento))
         return;
     if (EhTeclaDeTexto(*evento)) {
         const QPointer<TDateTimePicker> vivo(this);
@@ -351,6 +368,34 @@ bool TDateTimePicker::TeclaDeComando(QKeyEvent *evento)
     } else if (!evento->matches(QKeySequence::Undo) && !evento->matches(QKeySequence::Redo)) {
         return false;
     }
+    return true;
+}
+
+/** The keys that go to a part. */
+bool TDateTimePicker::TeclaDeParte(const QKeyEvent &evento)
+{
+    if (evento.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier))
+        return false;
+    const int atual = rascunho ? rascunho->Parte : currentSectionIndex();
+    int nova = atual;
+    switch (evento.key()) {
+    case Qt::Key_Left:
+        nova = atual - 1;
+        break;
+    case Qt::Key_Right:
+        nova = atual + 1;
+        break;
+    case Qt::Key_Home:
+        nova = Dia;
+        break;
+    case Qt::Key_End:
+        nova = Ano;
+        break;
+    default:
+        return false;
+    }
+    Concluir();
+    SelecionarParte(nova);
     return true;
 }
 

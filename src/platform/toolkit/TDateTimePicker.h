@@ -23,8 +23,9 @@ namespace ficha
  * part that was emptied (Backspace, Delete), leave what was there before. A digit that makes no day
  * or month is ignored.
  *
- * Up and Down step the part at the caret by one, PgUp and PgDn by ten, days through the end of the
- * month. F4 and Alt+Down open and close the calendar. Tab leaves. The wheel never changes the date.
+ * Left, Right, Home and End go to a part. Up and Down step it by one, PgUp and PgDn by ten, days
+ * through the end of the month. F4 and Alt+Down open and close the calendar. Tab leaves. The wheel
+ * never changes the date.
  *
  * Only the user's changes are announced (OnChange and UserChanged), once each; the program's never.
  */
@@ -61,6 +62,7 @@ public:
     void Colar(const QString &texto);
 
     void stepBy(int passos) override;
+    QValidator::State validate(QString &texto, int &cursor) const override;
 
     /** The user changed the date. */
     std::function<void(QObject *)> OnChange;
@@ -80,6 +82,7 @@ Q_SIGNALS:
 protected:
     StepEnabled stepEnabled() const override;
     bool focusNextPrevChild(bool seguinte) override;
+    bool event(QEvent *evento) override;
     bool eventFilter(QObject *alvo, QEvent *evento) override;
     void keyPressEvent(QKeyEvent *evento) override;
     void inputMethodEvent(QInputMethodEvent *evento) override;
@@ -108,6 +111,7 @@ private:
     };
 
     bool TeclaDeComando(QKeyEvent *evento);
+    bool TeclaDeParte(const QKeyEvent &evento);
     void Digitar(QChar c);
     void DigitarAlgarismo(QChar c);
     void Separador();
