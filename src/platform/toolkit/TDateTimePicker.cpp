@@ -16,9 +16,11 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QStyleOption>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -450,6 +452,24 @@ void TDateTimePicker::contextMenuEvent(QContextMenuEvent *evento)
     c.TemSelecao = true;
     c.SomenteLeitura = isReadOnly();
     NovoMenuDeEdicao(this, c)->popup(evento->globalPos());
+}
+
+/** As QDateEdit paints it, but whole where it stands a little to the left of its parent. */
+void TDateTimePicker::paintEvent(QPaintEvent *)
+{
+    QStyleOptionSpinBox campo;
+    initStyleOption(&campo);
+    QStyleOptionComboBox opcao;
+    opcao.initFrom(this);
+    opcao.editable = true;
+    opcao.frame = campo.frame;
+    opcao.subControls = campo.subControls;
+    opcao.activeSubControls = campo.activeSubControls;
+    opcao.rect.setLeft(std::max(0, -x()));
+    if (isReadOnly())
+        opcao.state &= ~QStyle::State_Enabled;
+    QPainter pintor(this);
+    style()->drawComplexControl(QStyle::CC_ComboBox, &opcao, &pintor, this);
 }
 
 void TDateTimePicker::Digitar(QChar c)

@@ -91,6 +91,7 @@ protected:
     void focusInEvent(QFocusEvent *evento) override;
     void focusOutEvent(QFocusEvent *evento) override;
     void contextMenuEvent(QContextMenuEvent *evento) override;
+    void paintEvent(QPaintEvent *evento) override;
 
 private:
     enum TParte { Dia, Mes, Ano };
