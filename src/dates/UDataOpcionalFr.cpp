@@ -187,19 +187,23 @@ void TDataOpcionalFr::SemanasRadioButtonClick(QObject *) {}
 void TDataOpcionalFr::MesesRadioButtonClick(QObject *) {}
 void TDataOpcionalFr::FaixaRadioButtonClick(QObject *) {}
 
+/** Runs the handler of a released button after the control itself took it: a radio button that
+ * loses the focus in the middle of a click is not checked. */
 bool TDataOpcionalFr::eventFilter(QObject *objeto, QEvent *evento)
 {
     const TSolto solto =
         evento->type() == QEvent::MouseButtonRelease ? soltos.value(objeto) : TSolto();
-    if (!solto.Handler)
-        return TOpcionalBasFr::eventFilter(objeto, evento);
     const auto *mouse = static_cast<const QMouseEvent *>(evento);
+    if (!solto.Handler || mouse->button() != Qt::LeftButton)
+        return TOpcionalBasFr::eventFilter(objeto, evento);
     const auto *controle = static_cast<const QWidget *>(objeto);
+    const bool dentro =
+        controle->isEnabled() && controle->rect().contains(mouse->position().toPoint());
     const QPointer<TDataOpcionalFr> vivo(this);
-    if (mouse->button() == Qt::LeftButton && controle->isEnabled() &&
-        controle->rect().contains(mouse->position().toPoint()))
+    objeto->event(evento);
+    if (vivo && dentro)
         Protegido([&] { (this->*solto.Handler)(solto.Sender); });
-    return !vivo || TOpcionalBasFr::eventFilter(objeto, evento);
+    return true;
 }
 
 void TDataOpcionalFr::LigarRadios()

@@ -236,8 +236,10 @@ TEST_F(TDTPBasFrTest, ArrowsAndFunctionKeysDoNotStartOne)
     for (const Qt::Key tecla :
          {Qt::Key_Up, Qt::Key_Right, Qt::Key_Down, Qt::Key_Left, Qt::Key_PageUp, Qt::Key_PageDown,
           Qt::Key_Home, Qt::Key_End, Qt::Key_F1, Qt::Key_F2, Qt::Key_F5, Qt::Key_F12,
-          Qt::Key_Escape, Qt::Key_Return, Qt::Key_Shift, Qt::Key_Control})
+          Qt::Key_Escape, Qt::Key_Return, Qt::Key_Shift, Qt::Key_Control}) {
         Teclar(data, tecla);
+        EXPECT_EQ(tela.pedidos, 0) << tecla;
+    }
     Comando(Qt::Key_A, u'\x01');
     Comando(Qt::Key_C, u'\x03');
     EXPECT_EQ(tela.pedidos, 0);

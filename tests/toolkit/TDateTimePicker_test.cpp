@@ -166,6 +166,27 @@ TEST_F(DateTimePicker, EachChangeIsAnnouncedOnce)
     EXPECT_EQ(mudancas, QList<TDateTimePicker::TMudanca>(2, TDateTimePicker::TMudanca::mdDigitada));
 }
 
+TEST_F(DateTimePicker, EnterChangesNothingAndIsTheForms)
+{
+    Abrir();
+    QTest::keyClick(data, Qt::Key_Up);
+    vistas.clear();
+    Digitar("2");
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+    QApplication::sendEvent(data, &enter);
+    EXPECT_FALSE(enter.isAccepted());
+    EXPECT_EQ(Texto(), QStringLiteral("02/02/2026")) << "what was typed is taken in";
+    EXPECT_EQ(vistas, QStringList{QStringLiteral("02/02/2026")});
+}
+
+TEST_F(DateTimePicker, AToolThatWritesIntoTheFieldIsTheUser)
+{
+    Abrir();
+    data->findChild<QLineEdit *>()->setText(QStringLiteral("16/02/2026"));
+    EXPECT_EQ(Data(), QStringLiteral("16/02/2026"));
+    EXPECT_EQ(vistas, QStringList{QStringLiteral("16/02/2026")});
+}
+
 TEST_F(DateTimePicker, BackspaceMendsADigitAndAnEmptiedPartKeepsItsNumber)
 {
     Abrir();

@@ -202,11 +202,7 @@ TDateTimePicker::TDateTimePicker(QWidget *owner) : QDateEdit(owner)
     lineEdit()->installEventFilter(this);
     lineEdit()->setAcceptDrops(false);
     SetDate(Hoje());
-    // Whoever else writes into the field (tools for the disabled do) is the user.
-    Ligar(this, &QDateEdit::dateChanged, this, [this] {
-        if (!calado)
-            Anunciar(mdEscolha);
-    });
+    Ligar(this, &QDateEdit::dateChanged, this, [this] { MudouPorFora(); });
 }
 
 void TDateTimePicker::SetDate(TDateTime dia)
@@ -601,7 +597,8 @@ bool TDateTimePicker::Trocar(QDate nova)
     const QScopedValueRollback guarda(calado, true);
     const QDate antes = date();
     QDateEdit::setDate(std::clamp(nova, minimumDate(), maximumDate()));
-    return date() != antes;
+    conhecida = date();
+    return conhecida != antes;
 }
 
 void TDateTimePicker::Anunciar(TMudanca como)
@@ -621,6 +618,16 @@ void TDateTimePicker::Escolhido(QDate dia)
     SelecionarParte(Dia);
     if (mudou)
         Anunciar(mdEscolha);
+}
+
+/** Whoever else writes into the field (tools for the disabled do) is the user. Enter only tells of
+ * the same date again. */
+void TDateTimePicker::MudouPorFora()
+{
+    if (calado || date() == conhecida)
+        return;
+    conhecida = date();
+    Anunciar(mdEscolha);
 }
 
 } // namespace ficha

@@ -126,9 +126,12 @@ private:
     bool Trocar(QDate nova);
     void Anunciar(TMudanca como);
     void Escolhido(QDate dia);
+    void MudouPorFora();
 
     std::optional<TRascunho> rascunho;
     QPointer<QWidget> calendario;
+    /** The date that everybody knows of. */
+    QDate conhecida;
     bool calado = false;
 };
 
