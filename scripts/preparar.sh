@@ -8,6 +8,7 @@ pacotes=(
     qt6-base-dev qt6-svg-dev libgl-dev
     firebird-dev libfbclient2 firebird3.0-server-core
     libgtest-dev libgmock-dev
+    libwmf-dev
     fonts-liberation
 )
 

@@ -19,6 +19,7 @@ constexpr std::pair<int, const char *> Figuras[] = {
     {10, "confirmar"},
     {16, "campos"},
     {17, "desfazer"},
+    {18, "localizar-imagem"},
     {19, "config-impressao"},
     {20, "imprimir"},
     {29, "lista"},
