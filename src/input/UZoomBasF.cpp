@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScroller>
+#include <QStyle>
 
 namespace ficha
 {

@@ -27,7 +27,7 @@ constexpr qint64 NanosPorSegundo = 1'000'000'000;
 /** Coarser than the clock of any file system that a picture lies on at home. */
 constexpr qint64 Resolucao = 50'000'000;
 constexpr int LadoPedido = 8192;
-constexpr double PixelsNaturais = 50e6;
+constexpr double PixelsNaturais = 30e6;
 
 QString Danificada()
 {
@@ -204,7 +204,9 @@ QImage TArquivoDeImagem::LerNatural() const
 {
     const double pixels = double(tamanho.width()) * tamanho.height();
     const double lado = std::max(tamanho.width(), tamanho.height());
-    const double fator = std::min({1.0, std::sqrt(PixelsNaturais / pixels), LadoPedido / lado});
+    const double cabe = std::min({1.0, std::sqrt(PixelsNaturais / pixels), LadoPedido / lado});
+    // Eighths are what a JPEG decodes to at once: in between it would first take more than cabe.
+    const double fator = std::max(1.0, std::floor(cabe * 8)) / 8;
     return Ler((QSizeF(tamanho) * fator).toSize());
 }
 

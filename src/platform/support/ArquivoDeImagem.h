@@ -61,8 +61,8 @@ public:
     /** The picture stretched to a size (1 to 8192 pixels each way), smoothly. Raises
      * EImagemInvalida. */
     QImage Ler(QSize pixels) const;
-    /** The picture in its natural size; one of more than 50 million pixels smaller, in its
-     * proportions. */
+    /** The picture in its natural size; one of more than 30 million pixels, or longer
+     * than 8192, smaller in its proportions. */
     QImage LerNatural() const;
 
 private:

@@ -1,6 +1,7 @@
 #include "platform/support/DispositivoWmf.h"
 
 #include "platform/support/EImagemInvalida.h"
+#include "platform/support/RegistrosWmf.h"
 
 #include <QElapsedTimer>
 #include <QFontMetricsF>
@@ -138,6 +139,7 @@ private:
     static QPointF Ponto(const wmfD_Coord &c);
     static QRectF Entre(const wmfD_Coord &a, const wmfD_Coord &b);
     static QFont Fonte(const wmfFont &fonte, int pixels);
+    static QPointF Alinhado(const QFontMetricsF &medidas, const QString &texto, int alinhamento);
     QPen Pena(const wmfDC &dc) const;
     static QBrush Pincel(const wmfDC &dc);
     void Preparar(const wmfDC &dc);
@@ -353,6 +355,19 @@ float TDispositivo::LarguraDoTexto(const wmfFont &fonte, const char *texto)
     return float(medidas.horizontalAdvance(TextoOcidental(texto)) / TamanhoDeMedida);
 }
 
+/** Where a text begins on its base line, seen from the point it was given. */
+QPointF TDispositivo::Alinhado(const QFontMetricsF &medidas, const QString &texto, int alinhamento)
+{
+    const qreal largura = medidas.horizontalAdvance(texto);
+    const int deLado = alinhamento & wmfCentro, emPe = alinhamento & wmfBase;
+    return {deLado == wmfCentro    ? -largura / 2
+            : deLado == wmfDireita ? -largura
+                                   : 0,
+            emPe == wmfBase    ? 0
+            : emPe == wmfBaixo ? -medidas.descent()
+                               : medidas.ascent()};
+}
+
 void TDispositivo::Texto(const wmfDrawText_t &d)
 {
     constexpr int Opaco = 2, MaiorLetra = 4096;
@@ -371,11 +386,11 @@ void TDispositivo::Texto(const wmfDrawText_t &d)
     pintor.setFont(Fonte(*d.dc->font, altura));
     pintor.translate(Ponto(d.pt));
     pintor.rotate(-d.dc->font->lfEscapement / 10.0);
+    const QFontMetricsF medidas(pintor.font());
+    pintor.translate(Alinhado(medidas, texto, d.dc->textalign >> wmfDeslocamento));
     if (d.dc->bgmode == Opaco) {
-        const QFontMetricsF medidas(pintor.font());
-        pintor.fillRect(
-            QRectF(0, -medidas.ascent(), medidas.horizontalAdvance(texto), medidas.height()),
-            Cor(d.dc->bgcolor));
+        const QSizeF tamanho(medidas.horizontalAdvance(texto), medidas.height());
+        pintor.fillRect(QRectF(QPointF(0, -medidas.ascent()), tamanho), Cor(d.dc->bgcolor));
     }
     pintor.setPen(Cor(d.dc->textcolor));
     pintor.drawText(QPointF(0, 0), texto);

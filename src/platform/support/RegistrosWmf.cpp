@@ -152,6 +152,14 @@ void PorRegistro(QByteArray &em, quint16 funcao, std::initializer_list<int> pala
         em.append('\0');
 }
 
+/** The player sees every text on its base line from the left; how it is aligned, which it gets
+ * wrong, is carried in the bits above. */
+int AlinhamentoDoWmf(int alinhamento)
+{
+    constexpr int LinhaDeBase = 24;
+    return LinhaDeBase | (alinhamento & wmfAlinhamento) << wmfDeslocamento;
+}
+
 /** The nearest number that a record holds. */
 int DeRegistro(int v)
 {
@@ -234,7 +242,8 @@ private:
     void Poligonos(const TParametros &p);
     void Letras(const TParametros &p);
     void Restaurar(int quantos);
-    void Criar(bool nosso);
+    void Criar(quint16 funcao, std::initializer_list<int> palavras, QByteArrayView cauda = {});
+    void Ocupar(int objeto);
     void CriarFonte(const TParametros &p);
     void Escolher(int indice);
     void Apagar(int indice);
@@ -244,7 +253,7 @@ private:
     void VerRetangulo(const TParametros &p, qsizetype i);
     void Enquadrar(TRegistrosWmf &lido) const;
 
-    QByteArray saida;
+    QByteArray criacoes, saida;
     qsizetype inicio = 0;
     bool posicionavel = false;
     QRect moldura;
@@ -273,7 +282,11 @@ TRegistrosWmf TTranscricao::Ler(const QByteArray &arquivo)
     });
     Percorrer(arquivo, [this](quint16 funcao, const TParametros &p) { Registro(funcao, p); });
     TRegistrosWmf lido;
-    lido.bytes = saida;
+    PorRegistro(lido.bytes, fnSaveDC, {});
+    lido.bytes += criacoes;
+    PorRegistro(lido.bytes, fnRestoreDC, {-1});
+    PorRegistro(lido.bytes, fnSetTextAlign, {AlinhamentoDoWmf(0)});
+    lido.bytes += saida;
     lido.objetos = objetos;
     lido.bitmaps = std::move(bitmaps);
     Enquadrar(lido);
@@ -381,7 +394,7 @@ bool TTranscricao::Estado(quint16 funcao, const TParametros &p)
             Copiar(funcao, p, 1);
         return true;
     case fnSetTextAlign:
-        Copiar(funcao, p, 1);
+        PorRegistro(saida, funcao, {AlinhamentoDoWmf(p.U(0))});
         return true;
     case fnSetBkColor:
     case fnSetTextColor:
@@ -415,29 +428,25 @@ bool TTranscricao::Objeto(quint16 funcao, const TParametros &p)
 {
     switch (funcao) {
     case fnCreatePenIndirect:
-        Criar(true);
-        Copiar(funcao, p, 5);
+        p.Exigir(5);
+        Criar(funcao, {p.U(0), p.U(1), p.U(2), p.U(3), p.U(4)});
         return true;
     case fnCreateBrushIndirect: {
-        const bool conhecida = p.U(0) <= EstiloHachura;
-        Criar(true);
-        PorRegistro(saida, funcao,
-                    {conhecida ? p.U(0) : 0, p.U(1), p.U(2), std::min<int>(p.U(3), UltimaHachura)});
+        const int estilo = p.U(0) <= EstiloHachura ? p.U(0) : 0;
+        Criar(funcao, {estilo, p.U(1), p.U(2), std::min<int>(p.U(3), UltimaHachura)});
         return true;
     }
     case fnCreateFontIndirect:
-        Criar(true);
         CriarFonte(p);
         return true;
     case fnDIBCreatePatternBrush:
     case fnCreatePatternBrush:
         // A pattern becomes a grey, which is what most are used for.
-        Criar(true);
-        PorRegistro(saida, fnCreateBrushIndirect, {0, 0xC0C0, 0x00C0, 0});
+        Criar(fnCreateBrushIndirect, {0, 0xC0C0, 0x00C0, 0});
         return true;
     case fnCreatePalette:
     case fnCreateRegion:
-        Criar(false);
+        Ocupar(SemObjeto);
         return true;
     case fnSelectObject:
         Escolher(p.U(0));
@@ -450,16 +459,27 @@ bool TTranscricao::Objeto(quint16 funcao, const TParametros &p)
     }
 }
 
-/** A new object takes the first free slot of the file's table, and a number of its own in ours:
- * nothing that was selected once is ever gone. */
-void TTranscricao::Criar(bool nosso)
+/**
+ * A new object has a number of its own, which is never free again: what was selected once is never
+ * gone. All are created before the drawing begins, because the player selects what it creates.
+ */
+void TTranscricao::Criar(quint16 funcao, std::initializer_list<int> palavras, QByteArrayView cauda)
 {
-    if (objetos >= MaisObjetos || ranhuras.size() >= size_t(MaisObjetos) * 2)
+    if (objetos >= MaisObjetos)
         throw EImagemInvalida(QStringLiteral("o metarquivo tem objetos demais"));
+    PorRegistro(criacoes, funcao, palavras, cauda);
+    Ocupar(objetos++);
+}
+
+/** A new object takes the first free slot of the file's own table. */
+void TTranscricao::Ocupar(int objeto)
+{
     auto livre = std::ranges::find(ranhuras, Livre);
     if (livre == ranhuras.end())
         livre = ranhuras.insert(livre, Livre);
-    *livre = nosso ? objetos++ : SemObjeto;
+    *livre = objeto;
+    if (ranhuras.size() > size_t(MaisObjetos) * 2)
+        throw EImagemInvalida(QStringLiteral("o metarquivo tem objetos demais"));
 }
 
 void TTranscricao::Escolher(int indice)
@@ -490,8 +510,8 @@ void TTranscricao::CriarFonte(const TParametros &p)
                                     : altura;
     QByteArray cauda = nome.toByteArray();
     cauda.append(2 - cauda.size() % 2, '\0');
-    PorRegistro(saida, fnCreateFontIndirect,
-                {letras, p.S(1), p.S(2), p.S(3), p.U(4), p.U(5), p.U(6), p.U(7), p.U(8)}, cauda);
+    Criar(fnCreateFontIndirect,
+          {letras, p.S(1), p.S(2), p.S(3), p.U(4), p.U(5), p.U(6), p.U(7), p.U(8)}, cauda);
 }
 
 bool TTranscricao::Forma(quint16 funcao, const TParametros &p)

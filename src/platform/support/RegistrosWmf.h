@@ -10,6 +10,11 @@
 namespace ficha
 {
 
+/** The alignment of texts, in the bits above those that the player knows: 2 right, 6 centre, 8
+ * bottom, 24 base line; else left and top. */
+enum { wmfDireita = 2, wmfCentro = 6, wmfBaixo = 8, wmfBase = 24, wmfAlinhamento = 30 };
+constexpr int wmfDeslocamento = 8;
+
 /** The records of a Windows metafile, checked and written anew. */
 struct TRegistrosWmf {
     /** Header and closing record left out. */
