@@ -24,8 +24,9 @@ void TDTPBasFr::Create(QWidget *owner)
     OnEnter = [this](QObject *sender) { FrameEnter(sender); };
     DateTimePicker1->OnChange = [this](QObject *sender) { DateTimePicker1Change(sender); };
     DateTimePicker1->OnClick = [this](QObject *sender) { DateTimePicker1Click(sender); };
-    Ligar(DateTimePicker1, &TDateTimePicker::UserChanged, this,
-          [this](TDateTimePicker::TMudanca como) { MudadaPeloUsuario(como); });
+    connect(
+        DateTimePicker1, &TDateTimePicker::UserChanged, this,
+        [this](TDateTimePicker::TMudanca como) { Protegido([&] { MudadaPeloUsuario(como); }); });
     AoTeclaDescer(DateTimePicker1, [this](int &tecla, Qt::KeyboardModifiers estado) {
         DateTimePicker1KeyDown(DateTimePicker1, tecla, estado);
     });

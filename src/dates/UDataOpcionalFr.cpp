@@ -6,7 +6,6 @@
 #include "platform/core/Relogio.h"
 #include "platform/edits/TNumEditBR.h"
 #include "platform/support/Datas.h"
-#include "platform/toolkit/Cores.h"
 #include "platform/toolkit/Evento.h"
 #include "platform/toolkit/Layout.h"
 #include "platform/toolkit/TCheckBox.h"
@@ -42,7 +41,7 @@ void TDataOpcionalFr::Create(QWidget *owner)
     TOpcionalBasFr::Create(owner);
     DataInicial = Hoje();
     DataFinal = Somar(Hoje(), 1);
-    SetCorDoWidget(*Label3, QPalette::WindowText, CorDoWidget(*Label3, QPalette::Base));
+    ColorirTitulo();
     LigarRadios();
     LigarNumero(DiasUpDownBRFr, &TDataOpcionalFr::DiasUpDownBRFrUpDown1MouseUp);
     LigarNumero(SemanasUpDownBRFr, &TDataOpcionalFr::SemanasUpDownBRFrUpDown1MouseUp);
@@ -216,6 +215,15 @@ void TDataOpcionalFr::LigarRadios()
     SemanasRadioButton->OnClick = [this](QObject *s) { SemanasRadioButtonClick(s); };
     MesesRadioButton->OnClick = [this](QObject *s) { MesesRadioButtonClick(s); };
     FaixaRadioButton->OnClick = [this](QObject *s) { FaixaRadioButtonClick(s); };
+}
+
+/** The title has the colour of windows, switched off as well: it shows where a screen gives the
+ * frame a darker ground. On its own ground the check box's caption is the title. */
+void TDataOpcionalFr::ColorirTitulo()
+{
+    QPalette paleta = Label3->palette();
+    paleta.setColor(QPalette::WindowText, paleta.color(QPalette::Active, QPalette::Base));
+    Label3->setPalette(paleta);
 }
 
 /** The pickers tell this frame, which hands on to the frames that they are in. */

@@ -96,6 +96,7 @@ protected:
 private:
     using THandler = void (TDataOpcionalFr::*)(QObject *);
     void LigarRadios();
+    void ColorirTitulo();
     void LigarFaixa();
     void LigarNumero(TUpDownBRFr *frame, THandler mudou);
     void AoSoltar(QWidget *controle, QObject *sender, THandler handler);

@@ -87,8 +87,9 @@ TEST_F(TDataOpcionalFrTest, LayoutIsTheGoldenOne)
         EXPECT_EQ(numero->UpDown1->GetPosition(), 1);
         EXPECT_EQ(numero->NumEditBR1->text(), QStringLiteral("1"));
     }
-    EXPECT_EQ(fr->Label3->palette().color(QPalette::WindowText),
-              fr->palette().color(QPalette::Base));
+    for (const auto estado : {QPalette::Active, QPalette::Disabled})
+        EXPECT_EQ(fr->Label3->palette().color(estado, QPalette::WindowText),
+                  fr->palette().color(QPalette::Base));
     EXPECT_TRUE(fr->Label3->font().bold());
 }
 

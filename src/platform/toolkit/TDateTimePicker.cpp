@@ -35,7 +35,8 @@ FICHA_REGISTRAR_WIDGET(TDateTimePicker)
 namespace
 {
 
-constexpr int UltimaParte = 2;
+enum TParte { Dia, Mes, Ano };
+constexpr int UltimaParte = Ano;
 constexpr std::array Inicio = {0, 3, 6};
 constexpr std::array Tamanho = {2, 2, 4};
 constexpr std::array Maior = {31, 12, 9999};
@@ -117,7 +118,7 @@ public:
         caixa->setContentsMargins(0, 0, 0, 0);
         caixa->addWidget(calendario);
         calendario->SetDate(TDateTime(dia));
-        Ligar(calendario, &QCalendarWidget::clicked, this, [this](QDate qual) { Escolher(qual); });
+        Ligar(calendario, &QCalendarWidget::clicked, this, [this] { Escolher(); });
     }
 
     /** Under the field, or above it where the screen ends. */
@@ -145,7 +146,7 @@ protected:
     {
         const int tecla = evento->key();
         if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter)
-            Escolher(calendario->selectedDate());
+            Escolher();
         else if (tecla == Qt::Key_Escape || tecla == Qt::Key_F4 ||
                  (evento->modifiers() & Qt::AltModifier && tecla == Qt::Key_Up))
             close();
@@ -172,9 +173,9 @@ protected:
     }
 
 private:
-    void Escolher(QDate dia)
+    void Escolher()
     {
-        escolhido = dia;
+        escolhido = calendario->selectedDate();
         close();
     }
 
@@ -184,12 +185,28 @@ private:
 
 } // namespace
 
-/** The nearest date: a day that the month does not have is its last one. */
-QDate TDateTimePicker::TPartes::Data() const
-{
-    const QDate primeiro(Numero[Ano], Numero[Mes], 1);
-    return {Numero[Ano], Numero[Mes], std::min(Numero[Dia], primeiro.daysInMonth())};
-}
+/** What is being typed: the parts, which may be no date yet, and the digits of the present one. */
+struct TDateTimePicker::TRascunho {
+    struct TPartes {
+        std::array<int, 3> Numero;
+        /** The nearest date: a day that the month does not have is its last one. */
+        QDate Data() const
+        {
+            const QDate primeiro(Numero[Ano], Numero[Mes], 1);
+            return {Numero[Ano], Numero[Mes], std::min(Numero[Dia], primeiro.daysInMonth())};
+        }
+    };
+    explicit TRascunho(QDate d) : Partes{{d.day(), d.month(), d.year()}}, Antes(Partes) {}
+
+    /** The parts now, and as they were before the present one was begun. */
+    TPartes Partes, Antes;
+    int Parte = Dia;
+    QString Digitos;
+    /** The last digit completed the part before: a separator typed now is that one's. */
+    bool RecemPassado = false;
+    /** The part was emptied or has digits: it is shown as typed. */
+    bool Aberta = false;
+};
 
 TDateTimePicker::TDateTimePicker(QWidget *owner) : QDateEdit(owner)
 {
@@ -205,6 +222,8 @@ TDateTimePicker::TDateTimePicker(QWidget *owner) : QDateEdit(owner)
     Ligar(this, &QDateEdit::dateChanged, this, [this] { MudouPorFora(); });
 }
 
+TDateTimePicker::~TDateTimePicker() = default;
+
 void TDateTimePicker::SetDate(TDateTime dia)
 {
     setDate(dia.Data());
@@ -212,7 +231,7 @@ void TDateTimePicker::SetDate(TDateTime dia)
 
 void TDateTimePicker::setDate(QDate dia)
 {
-    const bool digitando = rascunho.has_value();
+    const bool digitando = rascunho != nullptr;
     rascunho.reset();
     Trocar(dia);
     if (digitando)
@@ -285,7 +304,7 @@ QAbstractSpinBox::StepEnabled TDateTimePicker::stepEnabled() const
 /** Tab leaves the field; it does not walk through its parts. */
 bool TDateTimePicker::focusNextPrevChild(bool seguinte)
 {
-    return QWidget::focusNextPrevChild(seguinte);
+    return QWidget::focusNextPrevChild(seguinte); // NOLINT(bugprone-parent-virtual-call)
 }
 
 bool TDateTimePicker::event(QEvent *evento)
@@ -517,10 +536,7 @@ void TDateTimePicker::Comecar()
     if (rascunho)
         return;
     const bool tudo = lineEdit()->selectedText().size() == lineEdit()->text().size();
-    const QDate d = date();
-    rascunho.emplace();
-    rascunho->Partes = {{d.day(), d.month(), d.year()}};
-    rascunho->Antes = rascunho->Partes;
+    rascunho = std::make_unique<TRascunho>(date());
     rascunho->Parte = tudo ? int(Dia) : std::clamp(currentSectionIndex(), 0, UltimaParte);
 }
 
@@ -540,7 +556,7 @@ void TDateTimePicker::Aplicar()
     const int numero = NumeroDaParte(parte, rascunho->Digitos);
     rascunho->Partes = rascunho->Antes;
     if (numero > 0)
-        rascunho->Partes.Numero[parte] = numero;
+        rascunho->Partes.Numero[std::size_t(parte)] = numero;
     const bool mudou = Trocar(rascunho->Partes.Data());
     if (!ParteCompleta(parte, rascunho->Digitos)) {
         MostrarRascunho();
@@ -574,7 +590,7 @@ void TDateTimePicker::MostrarRascunho()
         if (parte != Dia)
             texto += u'/';
         texto += aberta ? rascunho->Digitos.leftJustified(tamanho, Vazio)
-                        : ComZeros(rascunho->Partes.Numero[parte], tamanho);
+                        : ComZeros(rascunho->Partes.Numero[std::size_t(parte)], tamanho);
     }
     // The field would read the text as a date at once.
     const QSignalBlocker silencio(lineEdit());

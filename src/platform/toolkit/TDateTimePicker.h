@@ -6,7 +6,7 @@
 #include <QPointer>
 
 #include <functional>
-#include <optional>
+#include <memory>
 
 namespace ficha
 {
@@ -45,6 +45,7 @@ public:
     Q_ENUM(TMudanca)
 
     explicit TDateTimePicker(QWidget *owner = nullptr);
+    ~TDateTimePicker() override;
 
     /** At midnight. */
     TDateTime GetDate() const { return TDateTime(date()); }
@@ -94,22 +95,7 @@ protected:
     void paintEvent(QPaintEvent *evento) override;
 
 private:
-    enum TParte { Dia, Mes, Ano };
-    /** The parts as typed, which may be no date yet. */
-    struct TPartes {
-        int Numero[3] = {};
-        QDate Data() const;
-    };
-    /** What is being typed: its parts, those from before the present one, and the digits of it. */
-    struct TRascunho {
-        TPartes Partes, Antes;
-        int Parte = Dia;
-        QString Digitos;
-        /** The last digit completed the part before: a separator typed now is that one's. */
-        bool RecemPassado = false;
-        /** The part was emptied or has digits: it is shown as typed. */
-        bool Aberta = false;
-    };
+    struct TRascunho;
 
     bool TeclaDeComando(QKeyEvent *evento);
     bool TeclaDeParte(const QKeyEvent &evento);
@@ -128,7 +114,8 @@ private:
     void Escolhido(QDate dia);
     void MudouPorFora();
 
-    std::optional<TRascunho> rascunho;
+    /** What is being typed; none at rest. */
+    std::unique_ptr<TRascunho> rascunho;
     QPointer<QWidget> calendario;
     /** The date that everybody knows of. */
     QDate conhecida;
