@@ -1,3 +1,4 @@
+#include "dates/NoDialogo.h"
 #include "dates/UDataSelectF.h"
 #include "platform/core/Relogio.h"
 #include "platform/toolkit/TBitBtn.h"
@@ -7,7 +8,6 @@
 
 #include <QLabel>
 #include <QTableView>
-#include <QTimer>
 
 using namespace ficha;
 using namespace ficha::testes;
@@ -28,7 +28,7 @@ protected:
     /** Runs the dialog and what the user does in it. */
     bool Executar(const std::function<void()> &usuario)
     {
-        QTimer::singleShot(20, diag.get(), usuario);
+        const TNoDialogo<TDataSelectF> noDialogo([&](TDataSelectF &) { usuario(); });
         return diag->Executar();
     }
 

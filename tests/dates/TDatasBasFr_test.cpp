@@ -1,3 +1,4 @@
+#include "dates/NoDialogo.h"
 #include "dates/UDatasBasFr.h"
 #include "dates/UDatasSelectF.h"
 #include "platform/core/Relogio.h"
@@ -13,7 +14,6 @@
 
 #include <QLabel>
 #include <QScreen>
-#include <QTimer>
 
 using namespace ficha;
 using namespace ficha::testes;
@@ -60,15 +60,9 @@ protected:
     /** Clicks on the range button; the user does this in the dialog. */
     void NoDialogo(const std::function<void(TDatasSelectF &)> &usuario)
     {
-        bool aberto = false;
-        QTimer::singleShot(20, &tela, [&] {
-            auto *dialogo = qobject_cast<TDatasSelectF *>(QApplication::activeWindow());
-            ASSERT_TRUE(dialogo);
-            aberto = true;
-            usuario(*dialogo);
-        });
+        const TNoDialogo<TDatasSelectF> noDialogo(usuario);
         QTest::mouseClick(fr->DtSelectBitBtn, Qt::LeftButton);
-        EXPECT_TRUE(aberto);
+        EXPECT_TRUE(noDialogo.Aberto());
         Girar();
         EXPECT_TRUE(tela.findChildren<TDatasSelectF *>().isEmpty()) << "the dialog is gone";
     }
@@ -363,10 +357,8 @@ TEST_F(TDatasBasFrTest, CancellingTheDialogLeavesWhatWasTyped)
 TEST_F(TDatasBasFrTest, TheButtonWorksByKeyAndEnterConfirms)
 {
     fr->DtSelectBitBtn->setFocus();
-    QTimer::singleShot(20, &tela, [] {
-        auto *dialogo = qobject_cast<TDatasSelectF *>(QApplication::activeWindow());
-        ASSERT_TRUE(dialogo);
-        dialogo->MesAnteriorAct->Execute();
+    const TNoDialogo<TDatasSelectF> noDialogo([](TDatasSelectF &d) {
+        d.MesAnteriorAct->Execute();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     });
     Teclar(fr->DtSelectBitBtn, Qt::Key_Space);
@@ -402,12 +394,12 @@ TEST_F(TDatasBasFrTest, TheDialogOpensBelowTheButtonAndInsideTheWorkArea)
 TEST_F(TDatasBasFrTest, AFrameThatIsDestroyedWhileItsDialogIsOpenTakesItAlong)
 {
     QPointer<TDatasSelectF> dialogo;
-    QTimer::singleShot(20, &tela, [&] {
-        dialogo = qobject_cast<TDatasSelectF *>(QApplication::activeWindow());
-        ASSERT_TRUE(dialogo);
+    const TNoDialogo<TDatasSelectF> noDialogo([&](TDatasSelectF &d) {
+        dialogo = &d;
         delete fr;
     });
     fr->DtSelectBitBtn->OnClick(fr->DtSelectBitBtn);
+    EXPECT_TRUE(noDialogo.Aberto());
     EXPECT_TRUE(dialogo.isNull());
     EXPECT_TRUE(tela.findChildren<TDatasSelectF *>().isEmpty());
 }

@@ -1,3 +1,4 @@
+#include "dates/NoDialogo.h"
 #include "dates/UDatasSelectF.h"
 #include "platform/core/Relogio.h"
 #include "platform/support/SisD.h"
@@ -13,7 +14,6 @@
 
 #include <QLabel>
 #include <QTableView>
-#include <QTimer>
 
 using namespace ficha;
 using namespace ficha::testes;
@@ -62,7 +62,7 @@ protected:
     /** Runs the dialog and what the user does in it. */
     bool Executar(const std::function<void()> &usuario)
     {
-        QTimer::singleShot(20, diag.get(), usuario);
+        const TNoDialogo<TDatasSelectF> noDialogo([&](TDatasSelectF &) { usuario(); });
         return diag->Executar();
     }
     /** Clicks on a preset's button. */
