@@ -1,4 +1,4 @@
-#include "platform/toolkit/TStringGridPrivado.h"
+#include "platform/toolkit/TCustomGridPrivado.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -135,7 +135,7 @@ void PintarRelevo(QPainter &p, const QRect &area, const QColor &fundo)
     p.fillRect(QRect(area.right(), area.top(), 1, area.height()), sombra);
 }
 
-void TStringGrid::TPrivado::Pintar(QPainter &p, const QRegion &regiao)
+void TCustomGrid::TPrivado::Pintar(QPainter &p, const QRegion &regiao)
 {
     for (const QRect &ret : regiao)
         p.fillRect(ret, cor.ParaQColor());
@@ -147,7 +147,7 @@ void TStringGrid::TPrivado::Pintar(QPainter &p, const QRegion &regiao)
         PintarLinha(p, regiao, row);
 }
 
-void TStringGrid::TPrivado::PintarLinha(QPainter &p, const QRegion &regiao, int row)
+void TCustomGrid::TPrivado::PintarLinha(QPainter &p, const QRegion &regiao, int row)
 {
     const int y = YDaLinha(row), fim = q->viewport()->width();
     if (!regiao.intersects(QRect(0, y, fim, Passo())))
@@ -161,21 +161,24 @@ void TStringGrid::TPrivado::PintarLinha(QPainter &p, const QRegion &regiao, int 
             continue;
         const QRect ret(x, y, largura, alturaLinha);
         if (regiao.intersects(ret.adjusted(0, 0, Linha(), Linha())))
-            PintarCelula(p, ret, col, row);
+            q->PintarCelula(p, ret, col, row, Estado(col, row));
         x += largura + Linha();
     }
 }
 
-void TStringGrid::TPrivado::PintarCelula(QPainter &p, const QRect &ret, int col, int row)
+void TCustomGrid::TPrivado::PintarCelula(QPainter &p, const QRect &ret, int col, int row,
+                                         unsigned estado)
 {
-    const unsigned estado = Estado(col, row);
-    const bool doDono = q->OnDrawCell && !desenhoFalhou;
     if (defaultDrawing || desenhoFalhou)
         PintarPadrao(p, ret, col, row, estado);
     else if (estado & gdFixa)
         p.fillRect(ret, corFixa.ParaQColor());
-    if (doDono)
-        PintarDoDono(p, ret, col, row, estado);
+    if (q->OnDrawCell) {
+        p.save();
+        p.setClipRect(ret, Qt::IntersectClip);
+        q->Desenhar([&] { q->OnDrawCell(q, col, row, p, ret, estado); });
+        p.restore();
+    }
     if (gridLines) {
         const QColor linha = estado & gdFixa ? corFixa.ParaQColor().darker(150) : CorDasLinhas;
         p.fillRect(QRect(ret.right() + 1, ret.top(), 1, ret.height() + 1), linha);
@@ -183,7 +186,7 @@ void TStringGrid::TPrivado::PintarCelula(QPainter &p, const QRect &ret, int col,
     }
 }
 
-void TStringGrid::TPrivado::PintarPadrao(QPainter &p, const QRect &ret, int col, int row,
+void TCustomGrid::TPrivado::PintarPadrao(QPainter &p, const QRect &ret, int col, int row,
                                          unsigned estado)
 {
     const QPalette &paleta = q->palette();
@@ -212,31 +215,7 @@ void TStringGrid::TPrivado::PintarPadrao(QPainter &p, const QRect &ret, int col,
     }
 }
 
-/**
- * The host paints with the cell as its clip. An error must not open a message box here, where its
- * closing would paint and fail again: it is reported when the event loop comes round.
- */
-void TStringGrid::TPrivado::PintarDoDono(QPainter &p, const QRect &ret, int col, int row,
-                                         unsigned estado)
-{
-    p.save();
-    p.setClipRect(ret, Qt::IntersectClip);
-    try {
-        q->OnDrawCell(q, col, row, p, ret, estado);
-    } catch (...) {
-        desenhoFalhou = true;
-        QMetaObject::invokeMethod(
-            q,
-            [this, erro = std::current_exception()] {
-                SujarTudo();
-                ReportarErro(erro);
-            },
-            Qt::QueuedConnection);
-    }
-    p.restore();
-}
-
-unsigned TStringGrid::TPrivado::Estado(int col, int row) const
+unsigned TCustomGrid::TPrivado::Estado(int col, int row) const
 {
     if (!CelulaLivre(col, row))
         return gdFixa;

@@ -1,4 +1,4 @@
-#include "platform/toolkit/TStringGridPrivado.h"
+#include "platform/toolkit/TCustomGridPrivado.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -21,7 +21,7 @@ class TCelulaAcessivel : public QAccessibleInterface,
                          public QAccessibleActionInterface
 {
 public:
-    TCelulaAcessivel(TStringGrid *grade, int col, int row) : grid(grade), coluna(col), linha(row) {}
+    TCelulaAcessivel(TCustomGrid *grade, int col, int row) : grid(grade), coluna(col), linha(row) {}
 
     bool isValid() const override
     {
@@ -137,7 +137,7 @@ private:
     bool EhFixa() const { return EhTitulo() || (isValid() && coluna < grid->GetFixedCols()); }
     bool EhAtual() const { return grid->GetCol() == coluna && grid->GetRow() == linha; }
 
-    QPointer<TStringGrid> grid;
+    QPointer<TCustomGrid> grid;
     int coluna, linha;
 };
 
@@ -148,7 +148,7 @@ private:
 class TGradeAcessivel : public QAccessibleWidget, public QAccessibleTableInterface
 {
 public:
-    explicit TGradeAcessivel(TStringGrid *grade) : QAccessibleWidget(grade, QAccessible::Table) {}
+    explicit TGradeAcessivel(TCustomGrid *grade) : QAccessibleWidget(grade, QAccessible::Table) {}
     ~TGradeAcessivel() override { Esvaziar(); }
 
     int childCount() const override
@@ -271,7 +271,7 @@ public:
     void modelChange(QAccessibleTableModelChangeEvent *) override { Esvaziar(); }
 
 private:
-    TStringGrid *Grid() const { return static_cast<TStringGrid *>(object()); }
+    TCustomGrid *Grid() const { return static_cast<TCustomGrid *>(object()); }
 
     bool LinhasInteiras(const TGridRect &f) const
     {
@@ -315,9 +315,9 @@ private:
 
 QAccessibleInterface *Fabricar(const QString &classe, QObject *objeto)
 {
-    if (classe != QLatin1StringView(TStringGrid::staticMetaObject.className()))
+    if (classe != QLatin1StringView(TCustomGrid::staticMetaObject.className()))
         return nullptr;
-    auto *grid = qobject_cast<TStringGrid *>(objeto);
+    auto *grid = qobject_cast<TCustomGrid *>(objeto);
     return grid ? new TGradeAcessivel(grid) : nullptr;
 }
 

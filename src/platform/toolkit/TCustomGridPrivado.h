@@ -1,22 +1,20 @@
 #pragma once
 
 #include "platform/toolkit/Evento.h"
-#include "platform/core/GradeTextos.h"
-#include "platform/toolkit/TStringGrid.h"
+#include "platform/toolkit/TCustomGrid.h"
 
 #include <QBasicTimer>
-#include <QHash>
 #include <QPointer>
 
 namespace ficha
 {
 
-/** What a string grid keeps and does behind its face; only the grid's own sources see it. */
-struct TStringGrid::TPrivado {
+/** What a grid keeps and does behind its face; only the grid's own sources see it. */
+struct TCustomGrid::TPrivado {
     /** What the left button is doing since it went down. */
     enum class TArraste { Nada, Celulas, Titulo, Coluna };
 
-    explicit TPrivado(TStringGrid *grade);
+    explicit TPrivado(TCustomGrid *grade);
 
     // Geometry, in pixels of the viewport; nothing here walks over rows.
     int Linha() const { return gridLines ? 1 : 0; }
@@ -47,7 +45,6 @@ struct TStringGrid::TPrivado {
 
     // Sizes.
     void CorrigirFixos();
-    void PodarObjetos();
     void TamanhoMudou();
     void AgendarBarras();
     void AjustarBarras();
@@ -83,9 +80,8 @@ struct TStringGrid::TPrivado {
     void CelulaMudou(int row);
     void Pintar(QPainter &p, const QRegion &regiao);
     void PintarLinha(QPainter &p, const QRegion &regiao, int row);
-    void PintarCelula(QPainter &p, const QRect &ret, int col, int row);
+    void PintarCelula(QPainter &p, const QRect &ret, int col, int row, unsigned estado);
     void PintarPadrao(QPainter &p, const QRect &ret, int col, int row, unsigned estado);
-    void PintarDoDono(QPainter &p, const QRect &ret, int col, int row, unsigned estado);
     unsigned Estado(int col, int row) const;
 
     /** Calls a handler Protegido; answers whether the grid outlived it. */
@@ -94,20 +90,18 @@ struct TStringGrid::TPrivado {
     {
         if (!handler)
             return true;
-        const QPointer<TStringGrid> vivo(q);
+        const QPointer<TCustomGrid> vivo(q);
         const THandler copia = handler; // the grid may destroy its own handler
-        TStringGrid *const grade = q;
+        TCustomGrid *const grade = q;
         Protegido([&] { copia(grade, std::forward<Args>(args)...); });
         return !vivo.isNull();
     }
 
-    TStringGrid *q;
+    TCustomGrid *q;
     int colCount = 5, rowCount = 5;
     int fixedCols = 0, fixedRows = 1;
     int fixedColsPedidas = 0, fixedRowsPedidas = 1;
     int larguraPadrao = 64, alturaLinha = 24;
-    TGradeTextos textos;
-    QHash<quint64, std::intptr_t> objetos;
     std::vector<int> larguras;
     mutable std::vector<int> prefixos;
     mutable bool prefixosVelhos = true;
@@ -133,7 +127,7 @@ struct TStringGrid::TPrivado {
     bool desenhoFalhou = false;
 };
 
-/** Makes string grids known to assistive tools; once per process is enough, more does no harm. */
+/** Makes grids known to assistive tools; once per process is enough, more does no harm. */
 void InstalarGradeAcessivel();
 
 } // namespace ficha
