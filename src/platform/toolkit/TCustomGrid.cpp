@@ -333,6 +333,8 @@ void TCustomGrid::CliqueFixo(int col, int row)
     d->Avisar(OnFixedCellClick, col, row);
 }
 
+void TCustomGrid::RolouPelaBarra() {}
+
 void TCustomGrid::PintarCelula(QPainter &p, const QRect &ret, int col, int row, unsigned estado)
 {
     d->PintarCelula(p, ret, col, row, estado);
@@ -394,7 +396,8 @@ void TCustomGrid::scrollContentsBy(int, int)
     int esquerda = d->PrimeiraColuna();
     for (int i = horizontalScrollBar()->value(); i > 0; --i)
         esquerda = d->ColunaVizinha(esquerda, 1);
-    d->MudarTopo(d->fixedRows + verticalScrollBar()->value(), esquerda);
+    if (d->MudarTopo(d->fixedRows + verticalScrollBar()->value(), esquerda))
+        RolouPelaBarra();
 }
 
 void TCustomGrid::keyPressEvent(QKeyEvent *e)

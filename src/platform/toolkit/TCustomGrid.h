@@ -186,6 +186,8 @@ protected:
     virtual bool PodeSelecionar(int col, int row);
     /** A click on a fixed cell; announces it. */
     virtual void CliqueFixo(int col, int row);
+    /** The user scrolled with a bar or the wheel. */
+    virtual void RolouPelaBarra();
     /** Paints one cell with its lines; estado is a set of TGridDrawState. */
     virtual void PintarCelula(QPainter &p, const QRect &ret, int col, int row, unsigned estado);
     /** Whether cells paint by their place in the window or beyond their edges: every painting then

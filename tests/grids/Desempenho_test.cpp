@@ -1,0 +1,198 @@
+// What an in-memory list costs against what the toolkit offers for the same screen: a standard item
+// model behind a sorting and filtering proxy in a table view. The figures are printed in every
+// build and bounded in the release one.
+
+#include "grids/UDBClientBasFr.h"
+#include "platform/support/TDBGrid.h"
+#include "platform/support/TDataSource.h"
+
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QLocale>
+#include <QRandomGenerator>
+#include <QSortFilterProxyModel>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace ficha;
+
+namespace
+{
+
+#ifdef NDEBUG
+constexpr int Linhas = 100000;
+constexpr bool Cobrar = true;
+#else
+constexpr int Linhas = 10000;
+constexpr bool Cobrar = false;
+#endif
+
+/** Names of people, as a register has them. */
+QStringList Nomes()
+{
+    const QStringList primeiros = {
+        QStringLiteral("José"),   QStringLiteral("Ana"),  QStringLiteral("Márcia"),
+        QStringLiteral("álvaro"), QStringLiteral("João"), QStringLiteral("Conceição"),
+        QStringLiteral("Érica"),  QStringLiteral("Luís"), QStringLiteral("antônio")};
+    const QStringList ultimos = {QStringLiteral("da Silva"),  QStringLiteral("Araújo"),
+                                 QStringLiteral("Gonçalves"), QStringLiteral("de Sá"),
+                                 QStringLiteral("Assunção"),  QStringLiteral("Brandão")};
+    QRandomGenerator sorte(2003);
+    QStringList nomes;
+    for (int i = 0; i < Linhas; ++i) {
+        nomes << primeiros[sorte.bounded(int(primeiros.size()))] + u' ' +
+                     ultimos[sorte.bounded(int(ultimos.size()))] + u' ' +
+                     ultimos[sorte.bounded(int(ultimos.size()))] + u' ' +
+                     QString::number(sorte.bounded(100000));
+    }
+    return nomes;
+}
+
+class TListaFr : public TDBClientBasFr
+{
+public:
+    explicit TListaFr(TChave chave) : TDBClientBasFr(chave) {}
+    void CriarCampos() override
+    {
+        AdStringField(QStringLiteral("nome"), 60, QStringLiteral("Nome"), taLeftJustify);
+        AdIntegerField(QStringLiteral("cod"), QStringLiteral("Código"), QString(), taRightJustify);
+        AdFloatField(QStringLiteral("valor"), QStringLiteral("Valor"), QStringLiteral("#,##0.00"),
+                     taRightJustify);
+        AdDateTimeField(QStringLiteral("dia"), QStringLiteral("Data"), QStringLiteral("dd/mm/yyyy"),
+                        taCenter);
+    }
+    void PreencherDados() override
+    {
+        CDS->DisableControls();
+        for (int i = 0; i < nomes.size(); ++i)
+            CDS->AppendRecord({nomes[i], i, i * 1.17, TDateTime(36526.0 + i % 3000)});
+        CDS->First();
+        CDS->EnableControls();
+    }
+    QStringList nomes;
+};
+
+template <typename F>
+double Medir(F &&f)
+{
+    QElapsedTimer relogio;
+    relogio.start();
+    f();
+    return double(relogio.nsecsElapsed()) / 1e6;
+}
+
+struct TTempos {
+    double carregar, mostrar, clique, outro, volta, filtrar;
+};
+
+void Imprimir(const char *quem, const TTempos &t, double bytes)
+{
+    std::printf("[ FIGURES  ] %d rows, %s: load %.1f ms, show %.2f ms, first title click %.1f ms, "
+                "the other way %.2f ms, back %.2f ms, a filter letter %.1f ms%s\n",
+                Linhas, quem, t.carregar, t.mostrar, t.clique, t.outro, t.volta, t.filtrar,
+                bytes > 0 ? qPrintable(QStringLiteral(", %1 bytes a row").arg(bytes, 0, 'f', 0))
+                          : "");
+}
+
+/** The frame on a screen, clicked with the mouse; every figure with its painting. */
+TTempos DaCasa(const QStringList &nomes)
+{
+    QWidget tela;
+    TListaFr *fr = Criar<TListaFr>(&tela);
+    fr->nomes = nomes;
+    tela.resize(541, 217);
+    TTempos t{};
+    t.carregar = Medir([&] { fr->DoShow(); });
+    t.mostrar = Medir([&] {
+        tela.show();
+        (void)tela.grab();
+    });
+    TDBGrid *grid = fr->DBGrid1;
+    const auto clicar = [&] {
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->CellRect(0, 0).center());
+        (void)grid->grab();
+    };
+    t.clique = Medir(clicar);
+    t.outro = Medir(clicar);
+    t.volta = Medir(clicar);
+    QString procurado = QStringLiteral("sá");
+    fr->CDS->SetOnFilterRecord([&, nome = fr->CDS->Fields(0)](const TDataSet &) {
+        return nome->AsString().contains(procurado, Qt::CaseInsensitive);
+    });
+    t.filtrar = Medir([&] {
+        fr->CDS->SetFiltered(true);
+        (void)grid->grab();
+    });
+    EXPECT_GT(fr->CDS->RecordCount(), 0);
+    EXPECT_LT(fr->CDS->RecordCount(), Linhas);
+    Imprimir("in-memory list", t, double(fr->CDS->BytesUsados()) / Linhas);
+    return t;
+}
+
+TTempos DoToolkit(const QStringList &nomes)
+{
+    QStandardItemModel modelo;
+    QSortFilterProxyModel proxy;
+    QTableView tela;
+    proxy.setSortLocaleAware(true);
+    tela.resize(541, 217);
+    TTempos t{};
+    t.carregar = Medir([&] {
+        modelo.setColumnCount(4);
+        modelo.setRowCount(Linhas);
+        for (int i = 0; i < nomes.size(); ++i) {
+            modelo.setItem(i, 0, new QStandardItem(nomes[i]));
+            for (const auto &[c, valor] : {std::pair<int, QVariant>{1, i},
+                                           {2, i * 1.17},
+                                           {3, QDate(2000, 1, 1).addDays(i)}}) {
+                auto *item = new QStandardItem;
+                item->setData(valor, Qt::DisplayRole);
+                modelo.setItem(i, c, item);
+            }
+        }
+        proxy.setSourceModel(&modelo);
+        tela.setModel(&proxy);
+    });
+    t.mostrar = Medir([&] {
+        tela.show();
+        (void)tela.grab();
+    });
+    tela.setSortingEnabled(true);
+    const auto clicar = [&] {
+        QTest::mouseClick(tela.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(30, 8));
+        (void)tela.grab();
+    };
+    proxy.sort(-1);
+    t.clique = Medir(clicar);
+    t.outro = Medir(clicar);
+    t.volta = Medir(clicar);
+    proxy.setFilterKeyColumn(0);
+    proxy.setFilterCaseSensitivity(Qt::CaseInsensitive);
+    t.filtrar = Medir([&] {
+        proxy.setFilterFixedString(QStringLiteral("sá"));
+        (void)tela.grab();
+    });
+    EXPECT_GT(proxy.rowCount(), 0);
+    Imprimir("standard item model", t, 0);
+    return t;
+}
+
+} // namespace
+
+TEST(Desempenho, AListOfThePlatformAgainstOneOfTheToolkit)
+{
+    const QLocale antes;
+    QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
+    const QStringList nomes = Nomes();
+    const TTempos casa = DaCasa(nomes), toolkit = DoToolkit(nomes);
+    QLocale::setDefault(antes);
+    if (!Cobrar)
+        return;
+    EXPECT_LT(casa.carregar, 1000);
+    EXPECT_LT(casa.clique * 5, toolkit.clique);
+    EXPECT_LT(casa.volta * 50, toolkit.volta);
+    EXPECT_LT(casa.filtrar, 100);
+}
