@@ -147,6 +147,10 @@ void TDBClientBasFr::PegarComponentes()
     DataSource1->setObjectName(QStringLiteral("DataSource1"));
     DBGrid1->SetDataSource(DataSource1);
     DBGrid1->OnTitleClick = [this](TColumn *column) { DBGrid1TitleClick(column); };
+    DBGrid1->OnGetText = [this](const TColumn *column) {
+        const TField *campo = column->Field();
+        return campo ? TextoParaLista(*campo, MostrarDataNula) : QString();
+    };
     DBGrid1->OnDrawColumnCell = [this](QObject *sender, QPainter &p, const QRect &rect, int dataCol,
                                        TColumn *column, unsigned state) {
         DBGrid1DrawColumnCell(sender, p, rect, dataCol, column, state);

@@ -434,6 +434,21 @@ TEST_F(TClientDataSetTest, FilterByAQuestionShowsOnlyItsRows)
     EXPECT_EQ(Nomes(), L("um dois três quatro"));
 }
 
+TEST_F(TClientDataSetTest, AFilterThatRaisesReachesTheCallerAndTheListStays)
+{
+    Por(L("a b"));
+    cds.SetOnFilterRecord([](const TDataSet &) -> bool { throw EErro(QStringLiteral("não sei")); });
+    EXPECT_THROW(cds.SetFiltered(true), EErro);
+    EXPECT_EQ(Nomes(), L("a b"));
+    EXPECT_EQ(nome->AsString(), QStringLiteral("a"));
+    cds.Edit();
+    nome->SetAsString(QStringLiteral("c"));
+    EXPECT_THROW(cds.Post(), EErro);
+    EXPECT_EQ(Nomes(), L("c b"));
+    cds.SetOnFilterRecord(nullptr);
+    EXPECT_EQ(Nomes(), L("c b"));
+}
+
 TEST_F(TClientDataSetTest, FilterKeepsTheOrderOfTheIndex)
 {
     Por(L("d a c b"));

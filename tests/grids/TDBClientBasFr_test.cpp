@@ -458,8 +458,16 @@ TEST_F(TDBClientBasFrTest, NoDateIsPaintedEmptyUntilAskedFor)
     };
     // 01/01/1980, 02/01/1980, 30/12/1899, 31/12/2003.
     EXPECT_EQ(pintadas(), (QList<bool>{false, true, false, true}));
+    EXPECT_EQ(grid->GetCell(4, 1), QString()) << "assistive tools read what is painted";
+    EXPECT_EQ(grid->GetCell(4, 2), QStringLiteral("02/01/1980"));
     fr->MostrarDataNula = true;
     EXPECT_EQ(pintadas(), (QList<bool>{true, true, true, true}));
+    EXPECT_EQ(grid->GetCell(4, 1), QStringLiteral("01/01/1980"));
+    fr->MostrarDataNula = false;
+    fr->CDS->Edit();
+    fr->CDS->FieldByName(QStringLiteral("data"))->SetAsDateTime(TDateTime(29221.99));
+    fr->CDS->Post();
+    EXPECT_EQ(pintadas(), (QList<bool>{false, true, false, true})) << "at any time of that day";
 }
 
 TEST_F(TDBClientBasFrTest, TextsStandByTheirAlignmentThreePixelsFromTheEdge)

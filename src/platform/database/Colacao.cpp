@@ -132,8 +132,10 @@ void AcrescentarNivel(const TTexto &texto, const TTabela &tabela, std::vector<un
     qsizetype n = texto.size();
     while (n > 0 && tabela[QChar(texto[n - 1]).unicode()] == PrimeiroPeso)
         --n;
+    const size_t antes = saida.size();
+    saida.resize(antes + size_t(n));
     for (qsizetype i = 0; i < n; ++i)
-        saida.push_back(tabela[QChar(texto[i]).unicode()]);
+        saida[antes + size_t(i)] = tabela[QChar(texto[i]).unicode()];
 }
 
 template <typename TTexto>

@@ -33,29 +33,29 @@ quint64 BitsOrdenados(double valor)
     return bits & sinal ? ~bits : bits | sinal;
 }
 
+/** The first bytes of a key as numbers, by which most pairs are told apart. */
+struct TComeco {
+    quint64 primeiros = 0, seguintes = 0;
+    friend auto operator<=>(const TComeco &, const TComeco &) = default;
+};
+
 /** The keys of all rows one behind the other, and where each begins. */
 class TChaves
 {
 public:
     TChaves(const TLinhasEmMemoria &lidas, const std::vector<int> &quais, const TCriterio &por)
-        : linhas(lidas), slots(quais), criterio(por), postos(por.colunas.size()),
-          vistas(por.colunas.size())
+        : linhas(lidas), slots(quais), criterio(por), postos(por.colunas.size())
     {
-        inicios.reserve(slots.size() + 1);
-        for (size_t i = 0; i < slots.size(); ++i) {
-            inicios.push_back(bytes.size());
-            for (size_t c = 0; c < criterio.colunas.size(); ++c)
-                AcrescentarColuna(i, c);
+        while (!Fazer()) {
+            // A column was found that has to be ranked first.
         }
-        inicios.push_back(bytes.size());
     }
 
-    /** The first eight bytes as a number. */
-    quint64 Comeco(size_t i) const
+    TComeco Comeco(size_t i) const
     {
-        unsigned char oito[8] = {};
-        std::memcpy(oito, bytes.data() + inicios[i], std::min<size_t>(8, Tamanho(i)));
-        return qFromBigEndian<quint64>(oito);
+        unsigned char bytesDoComeco[16] = {};
+        std::memcpy(bytesDoComeco, bytes.data() + inicios[i], std::min<size_t>(16, Tamanho(i)));
+        return {qFromBigEndian<quint64>(bytesDoComeco), qFromBigEndian<quint64>(bytesDoComeco + 8)};
     }
     int Comparar(size_t a, size_t b) const
     {
@@ -68,37 +68,45 @@ public:
 private:
     size_t Tamanho(size_t i) const { return inicios[i + 1] - inicios[i]; }
 
-    void AcrescentarColuna(size_t i, size_t c)
+    bool Fazer()
+    {
+        bytes.clear();
+        inicios.clear();
+        inicios.reserve(slots.size() + 1);
+        for (size_t i = 0; i < slots.size(); ++i) {
+            inicios.push_back(bytes.size());
+            for (size_t c = 0; c < criterio.colunas.size(); ++c) {
+                if (!AcrescentarColuna(i, c))
+                    return false;
+            }
+        }
+        inicios.push_back(bytes.size());
+        return true;
+    }
+
+    bool AcrescentarColuna(size_t i, size_t c)
     {
         const int slot = slots[i], coluna = criterio.colunas[c];
         if (linhas.Nula(slot, coluna)) {
             bytes.push_back(Nulo);
-            return;
+            return true;
         }
         bytes.push_back(Presente);
         if (!linhas.EhTexto(coluna)) {
             AcrescentarInteiro(bytes, BitsOrdenados(linhas.Numero(slot, coluna)), 8);
-        } else if (PrecisaDePostos(c)) {
+        } else if (!postos[c].empty()) {
             AcrescentarInteiro(bytes, postos[c][i], 4);
-        } else {
-            TColacao::AcrescentarChave(linhas.Texto(slot, coluna), criterio.semCaixa, bytes);
+        } else if (TColacao::AcrescentarChave(linhas.Texto(slot, coluna), criterio.semCaixa,
+                                              bytes)) {
             bytes.push_back(FimDoTexto);
+        } else {
+            PorPostos(c);
+            return false;
         }
+        return true;
     }
 
     /** A column with a text beyond the everyday letters is ranked whole by the collator. */
-    bool PrecisaDePostos(size_t c)
-    {
-        if (!vistas[c]) {
-            vistas[c] = true;
-            const int coluna = criterio.colunas[c];
-            if (!std::all_of(slots.begin(), slots.end(), [&](int slot) {
-                    return TColacao::EhSimples(linhas.Texto(slot, coluna));
-                }))
-                PorPostos(c);
-        }
-        return !postos[c].empty();
-    }
     void PorPostos(size_t c)
     {
         std::vector<QString> textos;
@@ -114,7 +122,6 @@ private:
     TBytes bytes;
     std::vector<size_t> inicios;
     std::vector<std::vector<quint32>> postos; /**< by column of the criterion */
-    std::vector<bool> vistas;
 };
 
 int CompararValores(const TLinhasEmMemoria &linhas, int a, int b, int coluna, bool semCaixa)
@@ -149,7 +156,7 @@ TOrdem Ordenar(const TLinhasEmMemoria &linhas, const std::vector<int> &slots,
                const TCriterio &criterio)
 {
     struct TItem {
-        quint64 comeco;
+        TComeco comeco;
         quint32 posicao;
     };
     const TChaves chaves(linhas, slots, criterio);

@@ -145,11 +145,15 @@ void TClientDataSet::Post()
         d->linhas.Gravar(slot, int(c), d->escrita[c]);
     d->ordens.clear();
     SairDaEdicao();
+    const bool passa = !filtrado || Passa(slot);
     if (nova && !ControlsDisabled())
         Q_EMIT BeforeScroll();
     if (!nova)
         d->visiveis.erase(d->visiveis.begin() + (RecNo() - 1));
-    Colocar(slot);
+    if (passa)
+        Colocar(slot);
+    else
+        Renumerar(d->visiveis.empty() ? 0 : 1);
     AvisarDados();
     if (nova || SlotAtual() != slot)
         AvisarRolagem();
@@ -551,10 +555,6 @@ bool TClientDataSet::Passa(int slot)
 /** Puts a row that is not in the list where it belongs and makes it current. */
 void TClientDataSet::Colocar(int slot)
 {
-    if (filtrado && !Passa(slot)) {
-        Renumerar(d->visiveis.empty() ? 0 : 1);
-        return;
-    }
     const TIndexDef *indice = Indice(indexName);
     auto onde = d->visiveis.end();
     if (indice && ControlsDisabled()) {

@@ -113,7 +113,7 @@ public:
     void SetFilter(const QString &texto);
     const QString &GetFilter() const { return filtro; }
     /** Asked for every row, whose values the fields then have; must not change the dataset. Rows
-     * have to pass both filters. */
+     * have to pass both filters. What it raises reaches the caller, the list shown stays. */
     void SetOnFilterRecord(std::function<bool(const TDataSet &)> pergunta);
     bool GetFiltered() const { return filtrado; }
     /** Only the rows that pass the filters are there. The current row stays where it is let

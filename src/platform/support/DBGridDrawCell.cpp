@@ -80,7 +80,7 @@ QString TextoParaLista(const TField &campo, bool mostrarDataNula)
     if (campo.IsNull())
         return {};
     const bool data = EhData(campo.DataType());
-    if (data && !mostrarDataNula && campo.AsDateTime() <= SemData)
+    if (data && !mostrarDataNula && campo.AsDateTime().DataInteira() <= SemData)
         return {};
     const QString &formato = campo.DisplayFormat();
     if (!formato.isEmpty() && data)

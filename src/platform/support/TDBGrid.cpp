@@ -245,8 +245,7 @@ QAnyStringView TDBGrid::CellTexto(int col, int row) const
     } else if (TDataSet *dataset = DataSet();
                dataset && NumeroDaLinha(row) <= dataset->RecordCount()) {
         const TLerLinha ler(dataset, NumeroDaLinha(row));
-        if (const TField *campo = coluna.Field())
-            texto = TextoParaLista(*campo);
+        texto = TextoDe(coluna);
     }
     return texto;
 }
@@ -425,6 +424,16 @@ bool TDBGrid::TemLinhas() const
     return dataset && !dataset->IsEmpty();
 }
 
+QString TDBGrid::TextoDe(const TColumn &coluna) const
+{
+    QString dito;
+    if (OnGetText)
+        Protegido([&] { dito = OnGetText(&coluna); });
+    else if (const TField *campo = coluna.Field())
+        dito = TextoParaLista(*campo);
+    return dito;
+}
+
 void TDBGrid::PintarTitulo(QPainter &p, const QRect &ret, const TColumn &coluna)
 {
     const QColor fundo = coluna.Title.GetColor().ParaQColor();
@@ -448,10 +457,8 @@ void TDBGrid::PintarPadrao(QPainter &p, const QRect &ret, const TColumn &coluna,
     p.fillRect(ret,
                marcada ? palette().color(grupo, QPalette::Highlight) : GetColor().ParaQColor());
     p.setPen(palette().color(grupo, marcada ? QPalette::HighlightedText : QPalette::Text));
-    if (const TField *campo = coluna.Field()) {
-        EscreverNaCelula(p, ret.adjusted(Margem, 0, -Margem, 0), TextoParaLista(*campo),
-                         Horizontal(coluna.GetAlignment()) | Qt::AlignVCenter);
-    }
+    EscreverNaCelula(p, ret.adjusted(Margem, 0, -Margem, 0), TextoDe(coluna),
+                     Horizontal(coluna.GetAlignment()) | Qt::AlignVCenter);
     if (estado & gdFocada) {
         p.setPen(QPen(p.pen().color(), 1, Qt::DotLine));
         p.drawRect(ret.adjusted(0, 0, -1, -1));

@@ -162,6 +162,9 @@ public:
     std::function<void(QObject *, QPainter &, const QRect &rect, int dataCol, TColumn *column,
                        unsigned estado)>
         OnDrawColumnCell;
+    /** What a cell says in words, to the default painting and to assistive tools, the fields having
+     * the row's values. Without it, TextoParaLista of the field. */
+    std::function<QString(const TColumn *)> OnGetText;
     /** A click on a title: pressed and let go over it. */
     std::function<void(TColumn *)> OnTitleClick;
 
@@ -183,6 +186,7 @@ private:
     void PorColunas(const QStringList &campos);
     int LarguraPadrao(const TColumn &coluna) const;
     bool TemLinhas() const;
+    QString TextoDe(const TColumn &coluna) const;
     int NumeroDaLinha(int row) const { return row - GetFixedRows() + 1; }
     void PintarTitulo(QPainter &p, const QRect &ret, const TColumn &coluna);
     void PintarPadrao(QPainter &p, const QRect &ret, const TColumn &coluna, unsigned estado);
