@@ -25,6 +25,14 @@ public:
         TDTPBasFr::Atualizar();
     }
     int atualizacoes = 0;
+    int saidas = 0;
+
+protected:
+    void FrameExit(QObject *sender) override
+    {
+        ++saidas;
+        TDTPBasFr::FrameExit(sender);
+    }
 };
 
 /** A date control as a host might write it: without an editor. */
@@ -316,6 +324,7 @@ TEST_F(TDTPBasFrTest, ADatePickedOrPastedStartsAnAlterationWhenItLands)
 {
     MontarPreso();
     EscolherUmaSemanaDepois();
+    EXPECT_EQ(fr->saidas, 0) << "the calendar is part of the frame";
     EXPECT_EQ(tela.pedidos, 1);
     EXPECT_EQ(tabela->Status, TStatus::Alterando);
     EXPECT_EQ(Mostrada(), QStringLiteral("22/02/2026"));

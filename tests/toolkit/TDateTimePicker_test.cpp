@@ -266,6 +266,7 @@ TEST_F(DateTimePicker, ComingBackStartsAtTheDay)
 TEST_F(DateTimePicker, TheWheelChangesNothing)
 {
     Abrir();
+    EXPECT_EQ(data->focusPolicy(), Qt::StrongFocus) << "nor does it bring the focus here";
     for (const bool comFoco : {true, false}) {
         if (!comFoco)
             antes->setFocus();

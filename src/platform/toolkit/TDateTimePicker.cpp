@@ -214,6 +214,8 @@ TDateTimePicker::TDateTimePicker(QWidget *owner) : QDateEdit(owner)
     setLocale(QLocale(QLocale::Portuguese, QLocale::Brazil));
     setTimeSpec(Qt::UTC);
     setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
+    // The wheel does not even take the focus here.
+    setFocusPolicy(Qt::StrongFocus);
     setCalendarPopup(true);
     setDateRange(QDate(1, 1, 1), QDate(Maior[Ano], 12, 31));
     lineEdit()->installEventFilter(this);
