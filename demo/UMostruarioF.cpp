@@ -22,6 +22,7 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <memory>
 
 using namespace ficha;
@@ -53,13 +54,51 @@ void Preencher(QWidget *frame)
         valor->SetValor(1234.5);
 }
 
-QLabel *Nome(const QString &texto, QWidget *pai)
+QLabel *Negrito(const QString &texto, QWidget *pai, int maior = 0)
 {
     auto *nome = new QLabel(texto, pai);
     QFont negrito = nome->font();
     negrito.setBold(true);
+    negrito.setPointSize(negrito.pointSize() + maior);
     nome->setFont(negrito);
     return nome;
+}
+
+/** A kind of frame, and the classes that it takes with all that derive from them. */
+struct TTipoDeFrame {
+    const char16_t *Titulo;
+    std::initializer_list<const char *> Classes;
+};
+
+/** In the order of the gallery; the first kind that takes a class has it. */
+const TTipoDeFrame Tipos[] = {
+    {u"Documentos, endereço e contato",
+     {"TDocEditBRBasFr", "TBarCodBasFr", "TDocBasFr", "TNomeBasFr", "TEnderecoBasFr",
+      "TContatoBasFr"}},
+    {u"Textos", {"TLabeledEditBasFr", "TMemoBasFr"}},
+    {u"Números", {"TNumEditBRBasFr", "TUpDownBRFr", "TDisplayFr", "TDisplayFloatFr"}},
+    {u"Escolhas", {"TComboBoxBasFr", "TCheckBoxBasFr", "TRadioGroupBasFr", "TListBoxControlBasFr"}},
+    {u"Datas", {"TDataBasFr", "TDateControlBasFr", "TDatasBasFr", "TDatasFr"}},
+    {u"Filtros opcionais", {"TOpcionalBasFr"}},
+    {u"Imagens", {"TImgBasFr"}},
+};
+
+bool EhDoTipo(const QWidget *frame, const TTipoDeFrame &tipo)
+{
+    for (const QMetaObject *meta = frame->metaObject(); meta; meta = meta->superClass()) {
+        const QByteArray classe = QByteArray(meta->className()).split(':').last();
+        if (std::ranges::any_of(tipo.Classes, [&](const char *c) { return classe == c; }))
+            return true;
+    }
+    return false;
+}
+
+/** Bases show nothing of their own. */
+bool MostraAlgo(const QWidget *frame)
+{
+    const QList<QWidget *> filhos =
+        frame->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    return std::ranges::any_of(filhos, [](const QWidget *w) { return !w->isHidden(); });
 }
 
 /** Asks for a number and tells what was answered. */
@@ -92,24 +131,53 @@ void TMostruarioF::FormCreate(QObject *sender)
 
 void TMostruarioF::MostrarFrames(QWidget *lista)
 {
+    std::vector<QList<QWidget *>> porTipo(std::size(Tipos));
+    QList<QWidget *> outros;
+    QList<QWidget *> bases;
     for (const QString &classe : ClassesRegistradas()) {
-        const QMetaObject *meta = ClasseRegistrada(classe);
-        if (!meta->inherits(&TBasFr::staticMetaObject))
+        if (!ClasseRegistrada(classe)->inherits(&TBasFr::staticMetaObject))
             continue;
         QWidget *frame = CriarPeloNome(classe, lista);
         if (!frame)
             continue;
-        frame->setFixedSize(frame->size());
         Preencher(frame);
-        lista->layout()->addWidget(Nome(classe, lista));
+        const auto *tipo =
+            std::ranges::find_if(Tipos, [&](const auto &t) { return EhDoTipo(frame, t); });
+        if (!MostraAlgo(frame))
+            bases << frame;
+        else if (tipo == std::end(Tipos))
+            outros << frame;
+        else
+            porTipo[std::size_t(tipo - Tipos)] << frame;
+    }
+    for (std::size_t i = 0; i < porTipo.size(); ++i)
+        MostrarTipo(lista, QString::fromUtf16(Tipos[i].Titulo), porTipo[i]);
+    MostrarTipo(lista, QStringLiteral("Outros"), outros);
+    for (QWidget *base : bases)
+        base->resize(base->width(), 1);
+    MostrarTipo(lista, QStringLiteral("Bases, sem aparência própria"), bases);
+}
+
+void TMostruarioF::MostrarTipo(QWidget *lista, const QString &titulo,
+                               const QList<QWidget *> &frames)
+{
+    if (frames.isEmpty())
+        return;
+    lista->layout()->addWidget(Negrito(titulo, lista, 3));
+    for (QWidget *frame : frames) {
+        const QString classe =
+            QString::fromLatin1(frame->metaObject()->className()).section(u':', -1);
+        frame->setFixedSize(frame->size());
+        lista->layout()->addWidget(Negrito(classe, lista));
         lista->layout()->addWidget(frame);
     }
 }
 
 void TMostruarioF::MostrarDialogos(QWidget *lista)
 {
+    lista->layout()->addWidget(Negrito(QStringLiteral("Diálogos"), lista, 3));
     const auto botao = [&](const QString &classe, void (*perguntar)(QWidget *)) {
-        lista->layout()->addWidget(Nome(classe, lista));
+        lista->layout()->addWidget(Negrito(classe, lista));
         auto *abrir = new QPushButton(QStringLiteral("Abrir..."), lista);
         abrir->setFixedWidth(90);
         Ligar(abrir, &QPushButton::clicked, this, [this, perguntar] { perguntar(this); });

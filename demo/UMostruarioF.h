@@ -7,8 +7,9 @@ namespace comercial
 
 /**
  * A gallery of every frame of the library: all registered frame classes, each with its name, alive
- * and ready to be typed into, and the small dialogs behind buttons. A frame that is added to the
- * library appears here by itself.
+ * and ready to be typed into, and the small dialogs behind buttons. Frames stand with their kind,
+ * the bases that show nothing of their own at the end. A frame that is added to the library appears
+ * here by itself.
  */
 class TMostruarioF : public ficha::TChildMDIBasF
 {
@@ -22,6 +23,7 @@ protected:
 
 private:
     void MostrarFrames(QWidget *lista);
+    void MostrarTipo(QWidget *lista, const QString &titulo, const QList<QWidget *> &frames);
     void MostrarDialogos(QWidget *lista);
 };
 

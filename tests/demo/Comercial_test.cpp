@@ -196,6 +196,30 @@ TEST_F(ComercialTest, TheGalleryShowsEveryFrameByItsName)
     EXPECT_GE(frames, 20);
 }
 
+TEST_F(ComercialTest, TheGalleryStandsByKindsWithTheBasesAtTheEnd)
+{
+    const TFicha biblioteca;
+    TSQLConnection conexao;
+    AbrirBancoComercial(conexao, Arquivo("comercial.fdb"));
+    const std::unique_ptr<TMostruarioF> mostruario(Criar<TMostruarioF>(nullptr));
+    mostruario->Show();
+    const auto ordem = [&](const char *texto) {
+        for (const QLabel *rotulo : mostruario->findChildren<QLabel *>())
+            if (rotulo->text() == QString::fromUtf8(texto))
+                return rotulo->mapTo(mostruario.get(), QPoint()).y();
+        ADD_FAILURE() << texto;
+        return -1;
+    };
+    EXPECT_LT(ordem("Documentos, endereço e contato"), ordem("TCPFEditBRBasFr"));
+    EXPECT_LT(ordem("TCPFEditBRBasFr"), ordem("Números"));
+    EXPECT_LT(ordem("Números"), ordem("TNumEditBRCodBasFr"));
+    EXPECT_LT(ordem("TNumEditBRCodBasFr"), ordem("Escolhas"));
+    EXPECT_LT(ordem("Escolhas"), ordem("TComboBoxCodBasFr"));
+    EXPECT_LT(ordem("TComboBoxCodBasFr"), ordem("Bases, sem aparência própria"));
+    EXPECT_LT(ordem("Bases, sem aparência própria"), ordem("TControlBasFr"));
+    EXPECT_LT(ordem("TControlBasFr"), ordem("TNumDiagF"));
+}
+
 TEST_F(ComercialTest, TheProgramIdlesWithoutWakingUp)
 {
     TProcesso programa(pasta.path());
