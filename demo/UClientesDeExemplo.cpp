@@ -148,7 +148,7 @@ TCliente Pessoa(int i)
     const QString nome = i % 2 ? Um(Femininos, i / 2) : Um(Masculinos, i / 2);
     const QString ultimo = Um(Sobrenomes, i, 5);
     TCliente c;
-    c.Nome = nome + u' ' + Um(Sobrenomes, i, 11) + u' ' + ultimo;
+    c.Nome = nome + u' ' + Um(Sobrenomes, i + 9, 11) + u' ' + ultimo;
     c.Menor = nome + u' ' + ultimo;
     c.Documento = CPF(i);
     c.DocI = QString::number(10000000 + Lancado(i, 7919, 89999999));
