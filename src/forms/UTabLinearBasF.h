@@ -81,8 +81,9 @@ public:
     virtual void SelecionarPrimeiroControl();
     /**
      * Starts an alteration of the current record, or an insertion when there is none. False when
-     * the screen was not browsing or the record's lock was refused; the inputs then show the
-     * record as it now stands, also what was being typed into them.
+     * the screen was not browsing, when it is itself writing into its inputs (AtualizarLigado off),
+     * or when the record's lock was refused; the inputs then show the record as it now stands,
+     * also what was being typed into them.
      */
     bool AtivarAlteracao() override;
     /** Starts an insertion when the screen is browsing. Always true. */

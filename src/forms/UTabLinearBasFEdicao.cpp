@@ -67,7 +67,8 @@ void TTabLinearBasF::SelecionarPrimeiroControl() {}
 
 bool TTabLinearBasF::AtivarAlteracao()
 {
-    if (!Navegando() || ativando || !RelerSeFechada())
+    // An input that is emptied may ask for an alteration itself; there is nothing to alter then.
+    if (!Navegando() || ativando || !AtualizarLigado || !RelerSeFechada())
         return false;
     if (SQLQuery1->IsEmpty())
         return AtivarInsersao();

@@ -1,6 +1,7 @@
 #include "forms/TelasDeTeste.h"
 #include "forms/ULocalizBasF.h"
 #include "forms/UTabLinearD.h"
+#include "forms/UApoioForms.h"
 #include "platform/database/PrepararBanco.h"
 #include "platform/hostforms/TPrincipalMDIF.h"
 #include "platform/support/SisD.h"
@@ -863,6 +864,20 @@ TEST_F(TTabLinearBasFTest, InTheMainWindowOfTheHost)
     Assentar();
     EXPECT_FALSE(outra);
     delete principal;
+}
+
+TEST_F(TTabLinearBasFTest, WhatTheScreenWritesIntoItsInputsStartsNoAlteration)
+{
+    TresGrupos();
+    TGruposF *tela = Abrir();
+    {
+        const TFlagGuarda<TTabLinearBasF> escrevendo(tela, &TTabLinearBasF::AtualizarLigado, false);
+        EXPECT_FALSE(tela->AtivarAlteracao());
+        tela->DescrFr->Editar();
+        EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
+    }
+    tela->DescrFr->Editar();
+    EXPECT_EQ(tela->Tab->Status, TStatus::Alterando);
 }
 
 // ---- re-reading ----------------------------------------------------------------------------
