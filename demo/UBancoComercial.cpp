@@ -1,5 +1,6 @@
 #include "demo/UBancoComercial.h"
 
+#include "demo/UClientesDeExemplo.h"
 #include "demo/UDadosDeExemplo.h"
 #include "demo/UGuiaDeCeps.h"
 #include "platform/database/ConexD.h"
@@ -89,8 +90,10 @@ void CriarComDados(const QString &arquivo)
         criacao.CriarBanco(Roteiro(QStringLiteral("schema.sql")));
         PrepararBanco(criacao);
         TrazerAoDia(criacao);
-        InserirDadosDeExemplo(criacao);
+        const QString fotos = QFileInfo(arquivo).absoluteDir().filePath(QStringLiteral("fotos"));
+        InserirDadosDeExemplo(criacao, fotos);
         criacao.Close();
+        GravarFotosDeExemplo(fotos);
     } catch (...) {
         criacao.Close();
         QFile::remove(novo);

@@ -9,10 +9,10 @@ namespace comercial
  * The demo's database: opens it and installs it as the connection of every screen.
  *
  * An empty address means the embedded database "comercial.fdb" in the user's data folder, made with
- * the schema and sample data at the first run; a path means that file, made likewise; "host:path"
- * means a server, with the user and password of FICHA_USUARIO and FICHA_SENHA, where the database
- * is expected to exist. Raises EDatabaseError with one clear message; a database that could not be
- * made whole is not left behind.
+ * the schema and sample data at the first run, its pictures in the folder "fotos" beside it; a path
+ * means that file, made likewise; "host:path" means a server, with the user and password of
+ * FICHA_USUARIO and FICHA_SENHA, where the database is expected to exist. Raises EDatabaseError
+ * with one clear message; a database that could not be made whole is not left behind.
  *
  * A database of an earlier version of the program is brought up first: it gains what it lacks (the
  * postal-code guide with its states, the clients, the products' bar codes) and keeps everything

@@ -1,10 +1,13 @@
 #include "demo/UClientesDeExemplo.h"
 
 #include "platform/core/Documentos.h"
+#include "platform/core/Erros.h"
 #include "platform/database/ConexD.h"
 #include "platform/support/Textos.h"
 
 #include <QDate>
+#include <QDir>
+#include <QFile>
 
 #include <vector>
 
@@ -79,6 +82,7 @@ struct TEndereco {
     QString Logr;
 };
 
+/** In capitals, as the address frame writes them. */
 std::vector<TEndereco> EnderecosDoGuia(TSQLConnection &conexao)
 {
     TCustomBRQuery guia;
@@ -91,8 +95,9 @@ std::vector<TEndereco> EnderecosDoGuia(TSQLConnection &conexao)
     std::vector<TEndereco> enderecos;
     for (; !guia.Eof(); guia.Next()) {
         enderecos.push_back({guia.Fields(0)->AsString(), guia.Fields(1)->AsString(),
-                             guia.Fields(2)->AsString(), guia.Fields(3)->AsString(),
-                             guia.Fields(4)->AsString()});
+                             guia.Fields(2)->AsString().toUpper(),
+                             guia.Fields(3)->AsString().toUpper(),
+                             guia.Fields(4)->AsString().toUpper()});
     }
     return enderecos;
 }
@@ -119,7 +124,7 @@ QString CNPJ(int i)
     const int sorte = 10000000 + Lancado(i, 73687871, Primo);
     QString raiz = QString::number(sorte);
     if (i % 5 == 0)
-        raiz = QString::number(sorte, 36).toUpper().rightJustified(8, u'B');
+        raiz = QString::number(qint64(sorte) * 27011, 36).toUpper().rightJustified(8, u'0');
     const QString base = raiz + QStringLiteral("%1").arg(1 + i % 3, 4, 10, QChar(u'0'));
     return base + DigitosCNPJ(base);
 }
@@ -171,7 +176,7 @@ TCliente Empresa(int i)
     return c;
 }
 
-QString Sql(const TCliente &c, int codigo, const TEndereco &e)
+QString Sql(const TCliente &c, int codigo, const TEndereco &e, const QString &pastaDasFotos)
 {
     const QString documento = QuotedStr(c.Documento);
     const QString mascarado = c.Empresa ? CNPJComMasc(c.Documento) : CPFComMasc(c.Documento);
@@ -182,11 +187,11 @@ QString Sql(const TCliente &c, int codigo, const TEndereco &e)
     const QString celular = QStringLiteral("9%1-%2")
                                 .arg(7000 + Lancado(codigo, 1787, 2999))
                                 .arg(Lancado(codigo, 4421, 9973), 4, 10, QChar(u'0'));
-    const bool comFoto = codigo <= 2;
-    const QString foto =
-        !comFoto ? QString()
-                 : QStringLiteral(":/demo/fotos/%1.jpg")
-                       .arg(c.Empresa ? QStringLiteral("empresa") : QStringLiteral("pessoa"));
+    QString foto;
+    if (codigo <= 2)
+        foto =
+            QDir(pastaDasFotos)
+                .filePath(c.Empresa ? QStringLiteral("empresa.jpg") : QStringLiteral("pessoa.jpg"));
     const QStringList valores = {
         QString::number(codigo),
         QuotedStr(c.Nome),
@@ -223,14 +228,27 @@ QString Sql(const TCliente &c, int codigo, const TEndereco &e)
 
 } // namespace
 
-void InserirClientesDeExemplo(TSQLConnection &conexao)
+void InserirClientesDeExemplo(TSQLConnection &conexao, const QString &pastaDasFotos)
 {
     const std::vector<TEndereco> enderecos = EnderecosDoGuia(conexao);
     for (int i = 0; i < Quantos; ++i) {
         const TCliente cliente = i % 3 == 1 ? Empresa(i) : Pessoa(i);
-        conexao.Executar(Sql(cliente, i + 1, enderecos[std::size_t(i) % enderecos.size()]));
+        conexao.Executar(
+            Sql(cliente, i + 1, enderecos[std::size_t(i) % enderecos.size()], pastaDasFotos));
     }
     conexao.Executar(QStringLiteral("set generator clientes_cod_gen to %1").arg(Quantos));
+}
+
+void GravarFotosDeExemplo(const QString &pasta)
+{
+    QDir().mkpath(pasta);
+    for (const QString &nome : {QStringLiteral("pessoa.jpg"), QStringLiteral("empresa.jpg")}) {
+        const QString arquivo = QDir(pasta).filePath(nome);
+        if (!QFile::exists(arquivo) &&
+            !QFile::copy(QStringLiteral(":/demo/fotos/") + nome, arquivo))
+            throw EErro(QStringLiteral("Não foi possível gravar a foto '%1'").arg(arquivo));
+        QFile::setPermissions(arquivo, QFile::permissions(arquivo) | QFile::WriteOwner);
+    }
 }
 
 } // namespace comercial

@@ -91,7 +91,7 @@ void InserirProduto(TSQLConnection &conexao, int codigo, int grupo, const QStrin
 
 } // namespace
 
-void InserirDadosDeExemplo(TSQLConnection &conexao)
+void InserirDadosDeExemplo(TSQLConnection &conexao, const QString &pastaDasFotos)
 {
     conexao.EmTransacao([&] {
         int grupo = 0;
@@ -107,7 +107,7 @@ void InserirDadosDeExemplo(TSQLConnection &conexao)
         }
         conexao.Executar(QStringLiteral("set generator grupos_cod_gen to %1").arg(grupo));
         conexao.Executar(QStringLiteral("set generator produtos_cod_gen to %1").arg(produto));
-        InserirClientesDeExemplo(conexao);
+        InserirClientesDeExemplo(conexao, pastaDasFotos);
     });
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 namespace ficha
 {
 class TSQLConnection;
@@ -10,8 +12,8 @@ namespace comercial
 
 /**
  * Fills the tables of a new database with invented groups, products and clients, in one
- * transaction.
+ * transaction. The folder is that of the clients' pictures, which are not written here.
  */
-void InserirDadosDeExemplo(ficha::TSQLConnection &conexao);
+void InserirDadosDeExemplo(ficha::TSQLConnection &conexao, const QString &pastaDasFotos);
 
 } // namespace comercial

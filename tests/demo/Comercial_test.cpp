@@ -118,7 +118,7 @@ TEST_F(ComercialTest, TheFirstRunMakesTheDatabaseWithItsData)
                   Variant(8));
         conexao.Executar(QStringLiteral("delete from produtos where grupos_cod=8"));
     }
-    EXPECT_EQ(Conteudo(), QStringList{QStringLiteral("comercial.fdb")});
+    EXPECT_EQ(Conteudo(), (QStringList{QStringLiteral("comercial.fdb"), QStringLiteral("fotos")}));
     TSQLConnection denovo;
     AbrirBancoComercial(denovo, arquivo);
     EXPECT_EQ(ValorDoBanco(denovo, QStringLiteral("select count(*) from produtos")), Variant(224))

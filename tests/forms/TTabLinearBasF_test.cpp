@@ -1,7 +1,7 @@
 #include "forms/TelasDeTeste.h"
+#include "forms/UApoioForms.h"
 #include "forms/ULocalizBasF.h"
 #include "forms/UTabLinearD.h"
-#include "forms/UApoioForms.h"
 #include "platform/database/PrepararBanco.h"
 #include "platform/hostforms/TPrincipalMDIF.h"
 #include "platform/support/SisD.h"
