@@ -1,6 +1,7 @@
 #include "demo/UMostruarioF.h"
 
 #include "base/UBasFr.h"
+#include "grids/UDBClientBasFr.h"
 #include "input/UComboBoxBasFr.h"
 #include "input/UComboBoxCodBasFr.h"
 #include "input/UDisplayFloatFr.h"
@@ -52,6 +53,8 @@ void Preencher(QWidget *frame)
         lista->ListBox1->SetItems(Itens);
     else if (auto *valor = qobject_cast<TDisplayFloatFr *>(frame))
         valor->SetValor(1234.5);
+    else if (auto *grade = qobject_cast<TDBClientBasFr *>(frame))
+        grade->DoShow();
 }
 
 QLabel *Negrito(const QString &texto, QWidget *pai, int maior = 0)

@@ -577,26 +577,21 @@ TEST(TDBClientBasFr, FieldsDeclaredTwiceOrNotAtAllReachTheCaller)
 
 TEST_F(TDBClientBasFrTest, PartsMayGoFirstInAnyOrder)
 {
-    enum TParte { Dataset, Fonte, Grade, Frame };
-    QList<TParte> ordem = {Dataset, Fonte, Grade, Frame};
+    enum TParte { Dataset, Fonte, Grade, Frame, Tela };
+    QList<TParte> ordem = {Dataset, Fonte, Grade, Frame, Tela};
     do {
-        QWidget janela;
-        janela.resize(541, 217);
-        QPointer<TProdutosFr> outro = Criar<TProdutosFr>(&janela);
-        janela.show();
+        QPointer<QWidget> janela = new QWidget;
+        janela->resize(541, 217);
+        const QPointer<TProdutosFr> outro = Criar<TProdutosFr>(janela.data());
+        janela->show();
         outro->DoShow();
         const QPointer<TClientDataSet> cds = outro->CDS;
         const QPointer<TDataSource> fonte = outro->DataSource1;
         const QPointer<TDBGrid> grade = outro->DBGrid1;
+        const QList<QPointer<QObject>> partes = {cds.data(), fonte.data(), grade.data(),
+                                                 outro.data(), janela.data()};
         for (const TParte parte : ordem) {
-            if (parte == Dataset)
-                delete cds;
-            else if (parte == Fonte)
-                delete fonte;
-            else if (parte == Grade)
-                delete grade;
-            else
-                delete outro;
+            delete partes[parte];
             if (grade) {
                 QTest::keyClick(grade, Qt::Key_Down);
                 QTest::mouseClick(grade->viewport(), Qt::LeftButton, {}, QPoint(30, 30));
@@ -607,7 +602,7 @@ TEST_F(TDBClientBasFrTest, PartsMayGoFirstInAnyOrder)
                 cds->Last();
                 cds->AppendRecord({9});
             }
-            Girar();
+            QCoreApplication::processEvents();
         }
     } while (std::next_permutation(ordem.begin(), ordem.end()));
 }

@@ -3,7 +3,9 @@
 #include "platform/core/Erros.h"
 #include "platform/core/Servicos.h"
 #include "platform/database/TClientDataSet.h"
+#include "platform/database/TSQLQuery.h"
 #include "platform/support/DBGridDrawCell.h"
+#include "support/BancoTemp.h"
 #include "support/Girar.h"
 #include "support/Widgets.h"
 
@@ -211,6 +213,39 @@ TEST_F(TDBGridTest, TabGoesFromCellToCellAndLeavesAtTheEnds)
     grid->setFocus();
     QTest::keyClick(grid, Qt::Key_Tab);
     EXPECT_TRUE(depois->hasFocus());
+
+    grid->SetOptions(TDBGrid::OpcoesPadrao);
+    cds->EmptyDataSet();
+    grid->setFocus();
+    QTest::keyClick(grid, Qt::Key_Tab);
+    EXPECT_TRUE(depois->hasFocus()) << "there is no cell to go to";
+}
+
+TEST_F(TDBGridTest, ShowsAQueryAsWell)
+{
+    TBancoTemp banco(QStringLiteral("create table t (cod integer, uf char(4), v numeric(9,2));"));
+    banco.Executar(QStringLiteral("insert into t values (1, 'SP', 1.5)"));
+    banco.Executar(QStringLiteral("insert into t values (2, 'RJ', null)"));
+    TSQLQuery query;
+    query.SetSQLConnection(&banco.Conexao());
+    query.SetSQL(QStringLiteral("select * from t order by cod"));
+    fonte->SetDataSet(&query);
+    query.Open();
+    query.FieldByName(QStringLiteral("v"))->SetDisplayFormat(QStringLiteral("0.00"));
+    janela.Abrir();
+    grid->setFocus();
+    EXPECT_EQ(grid->ColumnCount(), 3);
+    EXPECT_EQ(grid->GetCell(1, 1), QStringLiteral("SP"));
+    EXPECT_EQ(grid->GetCell(2, 1), QStringLiteral("1,50"));
+    EXPECT_EQ(grid->GetCell(2, 2), QString());
+    QTest::keyClick(grid, Qt::Key_Down);
+    EXPECT_EQ(query.RecNo(), 2);
+    banco.Executar(QStringLiteral("insert into t values (0, 'MG', 2)"));
+    query.Close();
+    query.Open();
+    EXPECT_EQ(grid->GetRowCount(), 4);
+    EXPECT_EQ(grid->GetRow(), 1);
+    EXPECT_EQ(grid->GetCell(1, 1), QStringLiteral("MG"));
 }
 
 TEST_F(TDBGridTest, AClickMovesTheDatasetAndTheColumn)

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <compare>
 #include <map>
 #include <numeric>
 
@@ -77,6 +78,7 @@ private:
     void PesarLetras(const std::map<char16_t, std::vector<char16_t>> &familias)
     {
         std::vector<char16_t> bases;
+        bases.reserve(familias.size());
         for (const auto &[base, membros] : familias)
             bases.push_back(base);
         std::sort(bases.begin(), bases.end(),
@@ -194,7 +196,7 @@ int TColacao::Comparar(QAnyStringView a, QAnyStringView b, bool semCaixa)
         return Colador(semCaixa).compare(a.toString(), b.toString());
     const auto ordem =
         std::lexicographical_compare_three_way(ca.begin(), ca.end(), cb.begin(), cb.end());
-    return ordem < 0 ? -1 : ordem > 0 ? 1 : 0;
+    return std::is_lt(ordem) ? -1 : std::is_gt(ordem) ? 1 : 0;
 }
 
 std::vector<quint32> TColacao::Postos(const std::vector<QString> &textos, bool semCaixa)

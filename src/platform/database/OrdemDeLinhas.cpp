@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
+#include <utility>
 
 namespace ficha
 {
@@ -33,11 +34,8 @@ quint64 BitsOrdenados(double valor)
     return bits & sinal ? ~bits : bits | sinal;
 }
 
-/** The first bytes of a key as numbers, by which most pairs are told apart. */
-struct TComeco {
-    quint64 primeiros = 0, seguintes = 0;
-    friend auto operator<=>(const TComeco &, const TComeco &) = default;
-};
+/** The first sixteen bytes of a key as numbers, by which most pairs are told apart. */
+using TComeco = std::pair<quint64, quint64>;
 
 /** The keys of all rows one behind the other, and where each begins. */
 class TChaves

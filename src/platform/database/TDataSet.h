@@ -121,7 +121,10 @@ protected:
 private:
     friend class TField;
     friend class TLerLinha;
-    int LinhaDosCampos() const { return linhaLida > 0 ? linhaLida : linhaEditada > 0 ? linhaEditada : recNo; }
+    int LinhaDosCampos() const
+    {
+        return linhaLida > 0 ? linhaLida : linhaEditada > 0 ? linhaEditada : recNo;
+    }
     void Desligar();
     TField *CampoDaColuna(const QString &nome);
     void IrPara(int linha);

@@ -324,7 +324,7 @@ void TDBGrid::PintarCelula(QPainter &p, const QRect &ret, int col, int row, unsi
 
 bool TDBGrid::focusNextPrevChild(bool proximo)
 {
-    if (!(opcoes & dgTabs) || (opcoes & dgRowSelect))
+    if (!(opcoes & dgTabs) || (opcoes & dgRowSelect) || !TemLinhas())
         return TCustomGrid::focusNextPrevChild(proximo);
     const int passo = proximo ? 1 : -1;
     int col = GetCol() + passo, row = GetRow();

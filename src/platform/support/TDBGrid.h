@@ -18,11 +18,12 @@ class TDBGrid;
 
 /** Options of a data grid, to be combined. */
 enum TDBGridOption : unsigned {
-    dgTitles = 1,         /**< the row of titles */
-    dgColumnResize = 2,   /**< the user may drag the right borders of the titles */
-    dgColLines = 4,       /**< lines between the columns */
-    dgRowLines = 8,       /**< lines between the rows */
-    dgTabs = 16,          /**< Tab goes from cell to cell and leaves at the ends */
+    dgTitles = 1,       /**< the row of titles */
+    dgColumnResize = 2, /**< the user may drag the right borders of the titles */
+    dgColLines = 4,     /**< lines between the columns */
+    dgRowLines = 8,     /**< lines between the rows */
+    dgTabs =
+        16, /**< Tab goes from cell to cell and leaves at the ends, and where there are no rows */
     dgRowSelect = 32,     /**< the current cell is the whole row */
     dgConfirmDelete = 64, /**< of editing, which this grid does not offer: without effect */
     dgCancelOnExit = 128, /**< likewise */
