@@ -268,3 +268,24 @@ TEST_F(Memo, BurstOfKeysLosesNone)
     QTest::keyClicks(&memo, tudo);
     EXPECT_EQ(memo.GetText(), tudo);
 }
+
+TEST_F(Memo, WhatIsPastedOrDroppedPassesThroughItsHandlerBeforeItIsMeasured)
+{
+    memo.SetMaxLength(6);
+    memo.OnPaste = [](QString &texto) { texto.remove(u'-').remove(u'€'); };
+    ColarTexto(&memo, QStringLiteral("1-2-3-4€"));
+    EXPECT_EQ(memo.GetText(), QStringLiteral("1234"));
+    EXPECT_TRUE(avisos.textos.isEmpty());
+    Soltar(memo.viewport(), QPoint(2, 2), QStringLiteral("-0"));
+    EXPECT_EQ(memo.GetText(), QStringLiteral("01234"));
+    QTest::keyClicks(&memo, QStringLiteral("-"));
+    EXPECT_EQ(memo.GetText().size(), 6) << "typing is not pasting";
+    memo.SetText(QString());
+    memo.OnPaste = [](QString &) { throw std::runtime_error("x"); };
+    const TServicosGuarda guarda;
+    int erros = 0;
+    Servicos().ReportarErro = [&](std::exception_ptr) { ++erros; };
+    ColarTexto(&memo, QStringLiteral("abc"));
+    EXPECT_EQ(memo.GetText(), QString());
+    EXPECT_EQ(erros, 1);
+}

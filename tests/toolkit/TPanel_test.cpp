@@ -85,3 +85,35 @@ TEST(Panel, ClickIsTold)
     QTest::mouseClick(&painel, Qt::RightButton);
     EXPECT_EQ(cliques, 1);
 }
+
+TEST(Panel, TrianglesOfTheSymbolFontPointTheirWayWithOrWithoutThatFont)
+{
+    TPanel painel;
+    painel.resize(40, 40);
+    painel.setFont(QFont(QStringLiteral("Webdings"), 20));
+    const auto imagem = [&](const char *caption) {
+        painel.SetCaption(QLatin1String(caption));
+        return painel.grab().toImage();
+    };
+    /** How far the ink's weight lies right of and below the middle of its own rectangle. */
+    const auto peso = [&](const char *caption) {
+        const QImage desenho = imagem(caption);
+        const QRect tinta = Tinta(desenho);
+        EXPECT_GT(tinta.width() * tinta.height(), 40) << caption;
+        QPoint soma;
+        for (int y = tinta.top(); y <= tinta.bottom(); ++y)
+            for (int x = tinta.left(); x <= tinta.right(); ++x)
+                if (qGray(desenho.pixel(x, y)) < 128)
+                    soma += QPoint(2 * x - tinta.left() - tinta.right(),
+                                   2 * y - tinta.top() - tinta.bottom());
+        return soma;
+    };
+    EXPECT_GT(peso("3").x(), 20) << "points left";
+    EXPECT_LT(peso("4").x(), -20) << "points right";
+    EXPECT_GT(peso("5").y(), 20) << "points up";
+    EXPECT_LT(peso("6").y(), -20) << "points down";
+    EXPECT_EQ(painel.GetCaption(), QStringLiteral("6"));
+    const QImage triangulo = imagem("3");
+    painel.setFont(QFont(QStringLiteral("Arial"), 20));
+    EXPECT_NE(imagem("3"), triangulo) << "a digit of any other font";
+}

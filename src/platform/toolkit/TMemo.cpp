@@ -207,7 +207,9 @@ void TMemo::insertFromMimeData(const QMimeData *dados)
 {
     if (isReadOnly() || !dados->hasText())
         return;
-    const QString texto = NormalizarEntrada(dados->text(), false);
+    QString texto = NormalizarEntrada(dados->text(), false);
+    if (OnPaste && !soltandoDaqui && !Protegido([&] { OnPaste(texto); }))
+        return;
     // A text moved inside the memo was let in before, and is already taken from its old place.
     if (!soltandoDaqui && Recusar(texto))
         return;

@@ -61,6 +61,9 @@ public:
 
     /** The text changed, by program or user. */
     std::function<void(QObject *)> OnChange;
+    /** Runs on a text that the user pastes or drops, lines ended by "\n", before the memo looks
+     * whether it can take it; may change it. An error refuses the text. */
+    std::function<void(QString &texto)> OnPaste;
 
     int Tag = 0;
 

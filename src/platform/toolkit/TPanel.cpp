@@ -4,6 +4,7 @@
 #include "platform/toolkit/Evento.h"
 #include "platform/toolkit/Layout.h"
 
+#include <QFontDatabase>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -11,6 +12,51 @@ namespace ficha
 {
 
 FICHA_REGISTRAR_WIDGET(TPanel)
+
+namespace
+{
+
+/** The triangles of the symbol font, by the characters that stand for them. */
+QPolygonF TrianguloDe(QChar c)
+{
+    switch (c.unicode()) {
+    case u'3':
+        return QPolygonF({{0.5, -1}, {0.5, 1}, {-0.5, 0}});
+    case u'4':
+        return QPolygonF({{-0.5, -1}, {-0.5, 1}, {0.5, 0}});
+    case u'5':
+        return QPolygonF({{-1, 0.5}, {1, 0.5}, {0, -0.5}});
+    case u'6':
+        return QPolygonF({{-1, -0.5}, {1, -0.5}, {0, 0.5}});
+    default:
+        return {};
+    }
+}
+
+/** Draws a caption of the symbol font where the machine has not got that font: as a letter of
+ * another one it would mean nothing. Answers whether it did. */
+bool DesenharTriangulo(QPainter &pintor, const QRect &area, const QString &caption)
+{
+    static const QString Simbolos = QStringLiteral("Webdings");
+    if (caption.size() != 1 || pintor.font().family() != Simbolos ||
+        QFontDatabase::hasFamily(Simbolos))
+        return false;
+    const QPolygonF triangulo = TrianguloDe(caption.front());
+    if (triangulo.isEmpty())
+        return false;
+    const qreal metade = pintor.fontInfo().pixelSize() * 0.4;
+    pintor.save();
+    pintor.setRenderHint(QPainter::Antialiasing);
+    pintor.translate(QRectF(area).center());
+    pintor.scale(metade, metade);
+    pintor.setBrush(pintor.pen().color());
+    pintor.setPen(Qt::NoPen);
+    pintor.drawPolygon(triangulo);
+    pintor.restore();
+    return true;
+}
+
+} // namespace
 
 TPanel::TPanel(QWidget *owner) : QFrame(owner) {}
 
@@ -67,6 +113,8 @@ void TPanel::paintEvent(QPaintEvent *evento)
     QPainter pintor(this);
     pintor.setPen(
         palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    if (DesenharTriangulo(pintor, contentsRect(), caption))
+        return;
     const int flags = int(alinhamento.toInt()) | Qt::TextShowMnemonic;
     pintor.drawText(contentsRect(), flags, caption);
 }
