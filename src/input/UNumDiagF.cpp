@@ -1,6 +1,7 @@
 #include "input/UNumDiagF.h"
 
 #include "input/UNumEditBRBasFr.h"
+#include "input/UTituloDoDialogo.h"
 #include "platform/edits/TNumEditBR.h"
 #include "platform/toolkit/Layout.h"
 
@@ -27,23 +28,10 @@ void TNumDiagF::PegarComponentes()
 
 void TNumDiagF::FormShow(QObject *sender)
 {
-    AcomodarTitulo();
+    AcomodarTitulo(*TitLabel, *NumEditBRBasFr);
     TDiagBasF::FormShow(sender);
     NumEditBRBasFr->NumEditBR1->setFocus();
     NumEditBRBasFr->NumEditBR1->selectAll();
-}
-
-void TNumDiagF::AcomodarTitulo()
-{
-    if (TitLabel->text().isEmpty())
-        return;
-    const int altura = TitLabel->heightForWidth(TitLabel->width());
-    TitLabel->setFixedHeight(altura);
-    const int falta = altura - NumEditBRBasFr->y();
-    if (falta <= 0)
-        return;
-    resize(width(), height() + falta);
-    NumEditBRBasFr->move(NumEditBRBasFr->x(), NumEditBRBasFr->y() + falta);
 }
 
 } // namespace ficha

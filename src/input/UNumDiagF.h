@@ -33,9 +33,6 @@ protected:
      * bottom down.
      */
     void FormShow(QObject *sender) override;
-
-private:
-    void AcomodarTitulo();
 };
 
 } // namespace ficha
