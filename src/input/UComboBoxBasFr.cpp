@@ -1,6 +1,7 @@
 #include "input/UComboBoxBasFr.h"
 
 #include "input/UApoioInput.h"
+#include "input/UListaDoCombo.h"
 #include "platform/support/Mensagens.h"
 #include "platform/toolkit/Evento.h"
 #include "platform/toolkit/Layout.h"
@@ -8,11 +9,6 @@
 #include "platform/toolkit/Teclas.h"
 
 #include <QLabel>
-#include <QListView>
-#include <QScreen>
-#include <QStyle>
-
-#include <algorithm>
 
 namespace ficha
 {
@@ -25,7 +21,7 @@ void TComboBoxBasFr::Create(QWidget *owner)
 {
     TDBControlBasFr::Create(owner);
     TitLabel->setBuddy(ComboBox1);
-    PrepararLista();
+    PrepararLista(*ComboBox1);
     OnEnter = [this](QObject *sender) { FrameEnter(sender); };
     AoTeclaDescer(ComboBox1, [this](int &tecla, Qt::KeyboardModifiers estado) {
         ComboBox1KeyDown(ComboBox1, tecla, estado);
@@ -130,7 +126,7 @@ void TComboBoxBasFr::ComboBox1DropDown(QObject *)
     const QPointer<TComboBoxBasFr> vivo(this);
     pedido.Antes();
     if (vivo)
-        AlargarLista();
+        AlargarLista(*ComboBox1);
 }
 
 void TComboBoxBasFr::ComboBox1KeyDown(QObject *, int &tecla, Qt::KeyboardModifiers)
@@ -143,26 +139,6 @@ void TComboBoxBasFr::ComboBox1KeyPress(QObject *, QChar &caractere)
 {
     if (IniciaEdicao(caractere))
         pedido.Antes();
-}
-
-void TComboBoxBasFr::PrepararLista()
-{
-    ComboBox1->view()->setTextElideMode(Qt::ElideRight);
-    // One row is measured, not every one.
-    if (auto *lista = qobject_cast<QListView *>(ComboBox1->view()))
-        lista->setUniformItemSizes(true);
-}
-
-/** Opens the list as wide as its longest text, inside the screen. */
-void TComboBoxBasFr::AlargarLista()
-{
-    QAbstractItemView *lista = ComboBox1->view();
-    const int margens = 4 * (lista->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) +
-                        lista->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const int cabe =
-        ComboBox1->screen()->availableGeometry().right() - ComboBox1->mapToGlobal(QPoint()).x();
-    const int texto = lista->fontMetrics().horizontalAdvance(ComboBox1->ItemMaisLongo());
-    lista->setMinimumWidth(std::max(0, std::min(texto + margens, cabe)));
 }
 
 /** As Tab does it: the text is selected, so that the next key types over it. A click that brought

@@ -69,8 +69,6 @@ protected:
     virtual void ComboBox1KeyPress(QObject *sender, QChar &caractere);
 
 private:
-    void PrepararLista();
-    void AlargarLista();
     void FocarLista();
     int ItemDoTexto() const;
 

@@ -241,6 +241,33 @@ TEST_F(Combo, AutoCloseUpClosesOnAWholeItem)
     EXPECT_EQ(combo->GetText(), QStringLiteral("santos"));
 }
 
+TEST_F(Combo, AccentsMayBeIgnoredWhereTypingSearches)
+{
+    combo->SetItems({QStringLiteral("SALTO"), QStringLiteral("SÃO PAULO"), QStringLiteral("ÁGUAS"),
+                     QStringLiteral("SAPÉ")});
+    Abrir();
+    QTest::keyClicks(combo, QStringLiteral("SAO"));
+    EXPECT_EQ(combo->GetText(), QStringLiteral("SAO")) << "not unless it is asked for";
+    combo->SetIgnoraAcentos(true);
+    combo->SetText({});
+    QTest::keyClicks(combo, QStringLiteral("SAO"));
+    EXPECT_EQ(combo->GetText(), QStringLiteral("SÃO PAULO"));
+    EXPECT_EQ(combo->GetItemIndex(), 1);
+    EXPECT_EQ(combo->lineEdit()->selectedText(), QStringLiteral(" PAULO"));
+    combo->SetText({});
+    QTest::keyClicks(combo, QStringLiteral("ag"));
+    EXPECT_EQ(combo->GetItemIndex(), 2);
+    combo->AddItem(QStringLiteral("AGÁ"));
+    combo->SetText({});
+    QTest::keyClicks(combo, QStringLiteral("aga"));
+    EXPECT_EQ(combo->GetText(), QStringLiteral("AGÁ")) << "a new item is found too";
+    combo->SetText(QStringLiteral("SAO PAULO"));
+    EXPECT_EQ(combo->GetItemIndex(), -1) << "the text of an item is the one with its accents";
+    EXPECT_EQ(combo->IndexOf(QStringLiteral("SAO PAULO")), -1);
+    EXPECT_EQ(combo->IndexOfSemAcentos(QStringLiteral("sao paulo")), 1);
+    EXPECT_EQ(combo->IndexOfSemAcentos(QStringLiteral("sao")), -1);
+}
+
 TEST_F(Combo, DropDownHandlerMayFillTheList)
 {
     combo->Clear();

@@ -14,11 +14,28 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <iterator>
 
 namespace ficha
 {
 
 FICHA_REGISTRAR_WIDGET(TComboBox)
+
+namespace
+{
+
+/** A text without its accents; every character stays one. */
+QString SemAcentos(QString texto)
+{
+    constexpr char16_t PrimeiraAcentuada = 0xC0;
+    for (QChar &c : texto) {
+        if (c.unicode() >= PrimeiraAcentuada && c.decompositionTag() == QChar::Canonical)
+            c = c.decomposition().at(0);
+    }
+    return texto;
+}
+
+} // namespace
 
 /** The edit inside: the gate of every edit, and the combo box learns of what was typed. */
 class TComboLineEdit : public TCustomEdit
@@ -190,6 +207,18 @@ int TComboBox::IndexOf(const QString &texto) const
     return -1;
 }
 
+int TComboBox::IndexOfSemAcentos(const QString &texto) const
+{
+    const QString procurado = SemAcentos(texto);
+    const auto &todos = Textos();
+    for (std::size_t i = 0; i < todos.size(); ++i) {
+        if (todos[i].size() == procurado.size() &&
+            SemAcentos(todos[i]).compare(procurado, Qt::CaseInsensitive) == 0)
+            return int(i);
+    }
+    return -1;
+}
+
 int TComboBox::IndexOfObjeto(std::intptr_t objeto) const
 {
     for (int i = 0; i < count(); ++i) {
@@ -214,6 +243,12 @@ void TComboBox::SetStyle(Style v)
     else
         setEditable(false);
     SetItemIndex(atual);
+}
+
+void TComboBox::SetIgnoraAcentos(bool v)
+{
+    ignoraAcentos = v;
+    lidosVelhos = true;
 }
 
 void TComboBox::SetItemHeight(int pixels)
@@ -381,7 +416,7 @@ void TComboBox::Digitado()
     if (autoCloseUp && DroppedDown() && !lineEdit()->hasSelectedText()) {
         const int unico = PrimeiroComecadoPor(currentText());
         if (unico >= 0 && itemText(unico).size() == currentText().size() &&
-            ComecadoPor(currentText(), unico + 1) < 0)
+            ComecadoPor(Procurado(currentText()), unico + 1) < 0)
             hidePopup();
     }
 }
@@ -437,17 +472,27 @@ const std::vector<QString> &TComboBox::Textos() const
         lidos.reserve(std::size_t(count()));
         for (int i = 0; i < count(); ++i)
             lidos.push_back(itemText(i));
+        semAcentos.clear();
+        if (ignoraAcentos)
+            std::transform(lidos.begin(), lidos.end(), std::back_inserter(semAcentos), SemAcentos);
         lidosVelhos = false;
         busca.reset();
     }
     return lidos;
 }
 
+/** A text as the items are searched. */
+QString TComboBox::Procurado(const QString &texto) const
+{
+    return ignoraAcentos ? SemAcentos(texto) : texto;
+}
+
 /** The first item that begins with a text, letter case aside; -1 for none. A text that continues
  * the last one cannot stand before that one's item, nor anywhere where that one had none. */
-int TComboBox::PrimeiroComecadoPor(const QString &texto) const
+int TComboBox::PrimeiroComecadoPor(const QString &digitado) const
 {
     (void)Textos();
+    const QString texto = Procurado(digitado);
     const bool continua = busca && texto.startsWith(busca->Texto, Qt::CaseInsensitive);
     const int achado =
         continua && busca->Achado < 0 ? -1 : ComecadoPor(texto, continua ? busca->Achado : 0);
@@ -455,9 +500,11 @@ int TComboBox::PrimeiroComecadoPor(const QString &texto) const
     return achado;
 }
 
+/** As PrimeiroComecadoPor, from an item on; the text is as the items are searched. */
 int TComboBox::ComecadoPor(const QString &texto, int desde) const
 {
-    const auto &todos = Textos();
+    (void)Textos();
+    const auto &todos = ignoraAcentos ? semAcentos : lidos;
     for (std::size_t i = std::size_t(desde); i < todos.size(); ++i) {
         if (todos[i].startsWith(texto, Qt::CaseInsensitive))
             return int(i);

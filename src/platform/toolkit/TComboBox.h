@@ -23,7 +23,8 @@ class TComboLineEdit;
  * An item counts as selected while the text is its text: ItemIndex follows what is typed, and is
  * -1 for a text that no item has (letter case aside). What is typed at the end of the text is
  * completed with the first item that begins so, the completion selected, so that the next key
- * types over it; deleting never completes.
+ * types over it; deleting never completes. With ignoraAcentos accents make no difference there:
+ * "SAO" is completed to "São Paulo".
  *
  * Only the user's typing and picking announces (OnChange and UserChanged, once per key or pick,
  * and only when text or item changed); the program's writing never does. The wheel over the
@@ -45,6 +46,7 @@ class TComboBox : public QComboBox
     Q_PROPERTY(bool autoDropDown READ GetAutoDropDown WRITE SetAutoDropDown)
     Q_PROPERTY(bool autoCloseUp READ GetAutoCloseUp WRITE SetAutoCloseUp)
     Q_PROPERTY(bool autoComplete READ GetAutoComplete WRITE SetAutoComplete)
+    Q_PROPERTY(bool ignoraAcentos READ GetIgnoraAcentos WRITE SetIgnoraAcentos)
     Q_PROPERTY(int itemHeight READ GetItemHeight WRITE SetItemHeight)
     Q_PROPERTY(int maxLength READ GetMaxLength WRITE SetMaxLength)
     Q_PROPERTY(int color READ GetColorInt WRITE SetColorInt)
@@ -85,6 +87,8 @@ public:
     void SetObjeto(int i, std::intptr_t objeto);
     /** First item with exactly this text, letter case aside; -1 when there is none. */
     int IndexOf(const QString &texto) const;
+    /** First item with this text, letter case and accents aside; -1 when there is none. */
+    int IndexOfSemAcentos(const QString &texto) const;
     /** First item with this integer; -1 when there is none. */
     int IndexOfObjeto(std::intptr_t objeto) const;
 
@@ -100,6 +104,9 @@ public:
     /** Complete while typing. Default true. */
     bool GetAutoComplete() const { return autoComplete; }
     void SetAutoComplete(bool v) { autoComplete = v; }
+    /** What is typed finds items whatever their accents. Default false. */
+    bool GetIgnoraAcentos() const { return ignoraAcentos; }
+    void SetIgnoraAcentos(bool v);
     /** Height of a row of the list, pixels; 0 lets the font decide. */
     int GetItemHeight() const { return itemHeight; }
     void SetItemHeight(int pixels);
@@ -159,6 +166,7 @@ private:
     void MostrarInicio();
     void AcompanharModelo();
     const std::vector<QString> &Textos() const;
+    QString Procurado(const QString &texto) const;
     int PrimeiroComecadoPor(const QString &texto) const;
     int ComecadoPor(const QString &texto, int desde) const;
     void AcompanharLista();
@@ -171,6 +179,8 @@ private:
 
     /** The items' texts, and the last search among them; none after the list changed. */
     mutable std::vector<QString> lidos;
+    /** The same as they are searched: without accents where those are to be ignored. */
+    mutable std::vector<QString> semAcentos;
     mutable bool lidosVelhos = true;
     mutable std::optional<TBusca> busca;
     std::array<QMetaObject::Connection, 6> doModelo;
@@ -184,6 +194,7 @@ private:
     bool autoDropDown = false;
     bool autoCloseUp = false;
     bool autoComplete = true;
+    bool ignoraAcentos = false;
     bool listaPreparada = false;
 };
 
