@@ -86,4 +86,7 @@ function(ficha_biblioteca)
     target_include_directories(ficha PUBLIC "${CMAKE_SOURCE_DIR}/src")
     target_link_libraries(ficha PUBLIC Qt6::Core Qt6::Gui Qt6::Widgets Qt6::Svg)
     add_library(ficha::ficha ALIAS ficha)
+    install(TARGETS ficha LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+    install(DIRECTORY "${CMAKE_SOURCE_DIR}/src/" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/ficha"
+            FILES_MATCHING PATTERN "*.h")
 endfunction()

@@ -155,7 +155,8 @@ void TTabLinearBasF::Reler(int cod)
     const QScopedValueRollback<bool> controles(Tab->AtualizarControles, false);
     PreencherStringGrid();
     IrParaCodigo(cod);
-    Tab->Campos->PreencherControls();
+    if (mostrarAoReler)
+        Tab->Campos->PreencherControls();
 }
 
 void TTabLinearBasF::PreencherStringGrid()

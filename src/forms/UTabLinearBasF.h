@@ -216,13 +216,28 @@ protected:
     /** Tells every column-bound frame of the screen that this is its screen. */
     void IndicarSeAosChild();
 
+    bool Navegando() const;
+    /** Browsing, and no edit is just being started. */
+    bool PodeIniciarEdicao() const { return Navegando() && !ativando; }
+    /** Shows the current record in the inputs. */
+    void MostrarRegistro();
+    /** The same when the event at hand is over: a key that was refused is typed all the same. */
+    void MostrarRegistroDepois();
+    /** The values of the fields, in their order. */
+    std::vector<Variant> ValoresAtuais() const;
+    /** Shows the fields that differ from these earlier values; the input that has the focus is left
+     * to the user. */
+    void MostrarOQueMudou(const std::vector<Variant> &antes);
+    /** While false, Reler leaves the inputs as they are. */
+    bool mostrarAoReler = true;
+
+    bool eventFilter(QObject *objeto, QEvent *evento) override;
+
 private:
     enum TPagina { PaginaLista = 0, PaginaCampos = 1 };
 
-    bool eventFilter(QObject *objeto, QEvent *evento) override;
     void LigarAcoes();
     void LigarGrade();
-    bool Navegando() const;
     int CodigoAtual() const;
     void IrParaCodigo(int cod);
     void PararNoQueNaoDesfaz();
@@ -231,10 +246,6 @@ private:
     void MostrarPagina(TPagina pagina);
     void FocarPagina();
     void FocarPrimeiroCampo();
-    void MostrarRegistroDepois();
-    void MostrarRegistro();
-    void MostrarOQueMudou(const std::vector<Variant> &antes);
-    std::vector<Variant> ValoresAtuais() const;
     void FocarErrado(TDBControlBasFr *errado);
     void IniciarInsersao();
     bool IniciarAlteracao();
