@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/UBasFr.h"
+#include "platform/database/TDataSetState.h"
 
 #include <memory>
 
@@ -16,9 +17,6 @@ class TConsultaDoGuia;
 class TCustomEdit;
 class TLabeledEdit;
 class TMaskEdit;
-
-/** State of the dataset that a screen edits, as it is told to the address frame. */
-enum TEstadoDataSet : int { dsInactive = 0, dsBrowse = 1, dsEdit = 2, dsInsert = 3 };
 
 /**
  * A Brazilian postal address: CEP, state, município, bairro, street, number and complement. The
@@ -83,7 +81,7 @@ public:
      */
     void PreencheEnderPeloCep();
 
-    /** The host tells the state of its dataset (see TEstadoDataSet): a CEP fills the address only
+    /** The host tells the state of its dataset (see TDataSetState): a CEP fills the address only
      * while editing or inserting. */
     void PegarState(int estado);
     /** Enables the frame for true, disables it for false; deliberately so, whatever the name says.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/database/TDataSet.h"
+#include "platform/database/TDataSetState.h"
 
 #include <functional>
 #include <initializer_list>
@@ -22,8 +23,6 @@ enum TLocateOptions : unsigned {
     loCaseInsensitive = 1, /**< neither case nor accents count */
     loPartialKey = 2,      /**< texts may go on behind the value */
 };
-
-enum TDataSetState { dsInactive, dsBrowse, dsEdit, dsInsert };
 
 struct TCriterio;
 
