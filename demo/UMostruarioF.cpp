@@ -84,6 +84,8 @@ const TTipoDeFrame Tipos[] = {
     {u"Datas", {"TDataBasFr", "TDateControlBasFr", "TDatasBasFr", "TDatasFr"}},
     {u"Filtros opcionais", {"TOpcionalBasFr"}},
     {u"Imagens", {"TImgBasFr"}},
+    {u"Grades e listas", {"TDBClientBasFr", "TGridBasFr", "TSQLGridBasFr", "TSelectBasFr"}},
+    {u"Painéis, ações e botões", {"TActBasFr", "TPanelBasFr", "TBotaoFr"}},
 };
 
 bool EhDoTipo(const QWidget *frame, const TTipoDeFrame &tipo)
