@@ -1,5 +1,6 @@
 #include "demo/UPasseio.h"
 
+#include "input/UBarCodBasFr.h"
 #include "input/UComboBoxCodBasFr.h"
 #include "platform/core/Erros.h"
 #include "platform/database/ConexD.h"
@@ -7,7 +8,9 @@
 #include "platform/toolkit/TBitBtn.h"
 #include "platform/toolkit/TComboBox.h"
 #include "platform/toolkit/TForm.h"
+#include "platform/toolkit/TLabeledEdit.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QMdiSubWindow>
 #include <QProcess>
@@ -17,6 +20,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <utility>
 
 using namespace ficha;
 
@@ -25,14 +29,6 @@ namespace comercial
 
 namespace
 {
-
-constexpr int EsperaPelaCaixa = 5000;
-
-void Dizer(const QString &texto)
-{
-    std::fputs((texto + u'\n').toUtf8().constData(), stdout);
-    std::fflush(stdout);
-}
 
 /** Where a person's keys would go. */
 QWidget *Alvo()
@@ -43,21 +39,6 @@ QWidget *Alvo()
     if (!janela)
         throw EErro(QStringLiteral("nenhuma janela está ativa"));
     return janela->focusWidget() ? janela->focusWidget() : janela;
-}
-
-/** Runs f once a modal box is there; the box's own event loop calls it. */
-void QuandoHouverCaixa(std::function<void(QWidget *)> f, int faltam = EsperaPelaCaixa)
-{
-    constexpr int Passo = 20;
-    if (faltam <= 0)
-        return;
-    QTimer::singleShot(Passo, qApp, [f = std::move(f), faltam]() mutable {
-        QWidget *caixa = QApplication::activeModalWidget();
-        if (caixa && caixa->isVisible())
-            f(caixa);
-        else
-            QuandoHouverCaixa(std::move(f), faltam - Passo);
-    });
 }
 
 } // namespace
@@ -83,7 +64,9 @@ void TPasseio::Executar()
     Exclusao();
     Produto();
     GrupoPeloCombo();
+    CodigoDeBarras();
     PerguntaAoFechar();
+    Clientes();
     Mostruario();
     SegundoPrograma();
     MostrarBanco("Depois");
@@ -100,10 +83,11 @@ void TPasseio::FotografarCaixa(const QString &arquivo)
 
 void TPasseio::MostrarBanco(const char *titulo)
 {
-    Dizer(QStringLiteral("== %1: %2 grupos, %3 produtos")
+    Dizer(QStringLiteral("== %1: %2 grupos, %3 produtos, %4 clientes")
               .arg(QString::fromUtf8(titulo),
                    DoBanco(QStringLiteral("select count(*) from grupos")),
-                   DoBanco(QStringLiteral("select count(*) from produtos"))));
+                   DoBanco(QStringLiteral("select count(*) from produtos")),
+                   DoBanco(QStringLiteral("select count(*) from clientes"))));
     TCustomBRSQL grupos(
         QStringLiteral("select grupos_cod, descricao from grupos order by grupos_cod"));
     for (; !grupos.Eof(); grupos.Next()) {
@@ -117,6 +101,12 @@ void TPasseio::MostrarBanco(const char *titulo)
     Dizer(QStringLiteral("   último produto: %1 %2 (%3), R$ %4")
               .arg(ultimo.Fields(0)->AsString(), ultimo.Fields(1)->AsString(),
                    ultimo.Fields(2)->AsString(), ultimo.Fields(3)->AsString()));
+    const TCustomBRSQL cliente(QStringLiteral(
+        "select first 1 clientes_cod, nome, doc_c, logr || ', ' || num || ', ' || mun || '/' || uf "
+        "from clientes order by clientes_cod desc"));
+    Dizer(QStringLiteral("   último cliente: %1 %2, %3, %4")
+              .arg(cliente.Fields(0)->AsString(), cliente.Fields(1)->AsString(),
+                   cliente.Fields(2)->AsString(), cliente.Fields(3)->AsString()));
 }
 
 void TPasseio::Grupos()
@@ -213,12 +203,23 @@ void TPasseio::GrupoPeloCombo()
            "trazer do cadastro de grupos o grupo novo");
     Foto(QStringLiteral("combo-volta-com-o-grupo"));
     Digitar(QStringLiteral("1234,5"));
+}
+
+/** A wrong check digit is refused, the right one completes the product. */
+void TPasseio::CodigoDeBarras()
+{
+    auto *codigo = Achar<TBarCodBasFr>("CodBarrasFr");
+    DigitarEm(codigo->LabeledEdit1, QStringLiteral("7891000315500"));
+    ResponderCaixa(QStringLiteral("produtos-codigo-de-barras-recusado"), Qt::Key_Return);
+    Tecla(Qt::Key_Tab);
+    Exigir(codigo->Focused(), "recusar um código de barras inválido");
+    DigitarEm(codigo->LabeledEdit1, QStringLiteral("7891000315507"));
     Tecla(Qt::Key_Return, Qt::ControlModifier);
-    Exigir(
-        DoBanco(QStringLiteral("select g.descricao || ' ' || p.preco from produtos p join grupos "
-                               "g on g.grupos_cod = p.grupos_cod where p.descricao starting "
-                               "'Vaso'")) == QStringLiteral("Jardim 1234.50"),
-        "inserir um produto no grupo novo");
+    Exigir(DoBanco(QStringLiteral("select g.descricao || ' ' || p.preco || ' ' || p.cod_barras "
+                                  "from produtos p join grupos g on g.grupos_cod = p.grupos_cod "
+                                  "where p.descricao starting 'Vaso'")) ==
+               QStringLiteral("Jardim 1234.50 7891000315507"),
+           "inserir um produto no grupo novo");
     Foto(QStringLiteral("produtos-inserido"));
 }
 
@@ -248,6 +249,8 @@ void TPasseio::Mostruario()
         if (y >= barra->maximum())
             break;
     }
+    FaixaDeDatas();
+    FiltroOpcional();
     Tecla(Qt::Key_F4, Qt::ControlModifier);
 }
 
@@ -295,11 +298,83 @@ void TPasseio::Digitar(const QString &texto)
     Assentar();
 }
 
-void TPasseio::ResponderCaixa(const QString &foto, Qt::Key tecla)
+void TPasseio::Clicar(QWidget *onde)
+{
+    Assentar();
+    QTest::mouseClick(onde, Qt::LeftButton);
+    Assentar();
+}
+
+void TPasseio::Marcar(QAbstractButton *botao)
+{
+    constexpr int Marca = 8;
+    Assentar();
+    QTest::mouseClick(botao, Qt::LeftButton, Qt::NoModifier, QPoint(Marca, botao->height() / 2));
+    Assentar();
+}
+
+void TPasseio::DigitarEm(QWidget *entrada, const QString &texto)
+{
+    Clicar(entrada);
+    Tecla(Qt::Key_Home);
+    Tecla(Qt::Key_End, Qt::ShiftModifier);
+    Digitar(texto);
+}
+
+void TPasseio::Mostrar(QWidget *frame)
+{
+    for (QWidget *w = frame->parentWidget(); w; w = w->parentWidget())
+        if (auto *rolagem = qobject_cast<QScrollArea *>(w))
+            rolagem->ensureWidgetVisible(frame);
+    Assentar();
+}
+
+void TPasseio::ExigirComponente(const QObject *achado, const char *nome)
+{
+    if (!achado)
+        throw EErro(QStringLiteral("Passeio: a tela não tem ") + QString::fromUtf8(nome));
+}
+
+void TPasseio::QuandoHouverCaixa(std::function<void(QWidget *)> f, int faltam)
+{
+    constexpr int Passo = 20;
+    if (faltam <= 0)
+        return;
+    QTimer::singleShot(Passo, qApp, [f = std::move(f), faltam]() mutable {
+        QWidget *caixa = QApplication::activeModalWidget();
+        if (caixa && caixa->isVisible())
+            f(caixa);
+        else
+            QuandoHouverCaixa(std::move(f), faltam - Passo);
+    });
+}
+
+void TPasseio::Dizer(const QString &texto)
+{
+    std::fputs((texto + u'\n').toUtf8().constData(), stdout);
+    std::fflush(stdout);
+}
+
+/** An exception must not cross the event loop that runs f; it is raised again by Exigir. */
+void TPasseio::NaCaixa(std::function<void(QWidget *)> f)
 {
     ++caixasPendentes;
-    QuandoHouverCaixa([this, foto, tecla](QWidget *caixa) {
+    QuandoHouverCaixa([this, f = std::move(f)](QWidget *caixa) {
+        const QPointer<QWidget> viva(caixa);
+        try {
+            f(caixa);
+        } catch (...) {
+            falhaNaCaixa = std::current_exception();
+            if (viva)
+                QTest::keyClick(viva, Qt::Key_Escape);
+        }
         --caixasPendentes;
+    });
+}
+
+void TPasseio::ResponderCaixa(const QString &foto, Qt::Key tecla)
+{
+    NaCaixa([this, foto, tecla](QWidget *caixa) {
         Foto(foto, caixa);
         QTest::keyClick(caixa->focusWidget() ? caixa->focusWidget() : caixa, tecla);
     });
@@ -330,6 +405,8 @@ void TPasseio::Assentar()
 void TPasseio::Exigir(bool feito, const char *passo)
 {
     Assentar();
+    if (falhaNaCaixa)
+        std::rethrow_exception(std::exchange(falhaNaCaixa, nullptr));
     if (caixaInesperada)
         throw EErro(QStringLiteral("Passeio: houve uma mensagem inesperada em: ") +
                     QString::fromUtf8(passo));

@@ -5,6 +5,16 @@
 
 #include <QDir>
 
+#include <exception>
+#include <functional>
+
+class QAbstractButton;
+
+namespace ficha
+{
+class TDatasSelectF;
+}
+
 namespace comercial
 {
 
@@ -35,8 +45,21 @@ private:
     void Exclusao();
     void Produto();
     void GrupoPeloCombo();
+    void CodigoDeBarras();
     void PerguntaAoFechar();
+    void Clientes();
+    void ClienteNovo();
+    void CepPreencheOEndereco();
+    void CepDeOutroEndereco();
+    void RuaOfereceOCep();
+    void CepQueNaoEODaRua();
+    void FotoDoCliente();
+    /** The address that is shown, in one line. */
+    QString Endereco() const;
     void Mostruario();
+    void FaixaDeDatas();
+    void Predefinicoes(ficha::TDatasSelectF &dialogo);
+    void FiltroOpcional();
     void SegundoPrograma();
 
     QString Caminho(const QString &nome);
@@ -44,7 +67,36 @@ private:
     void Foto(const QString &nome, QWidget *oQue = nullptr);
     void Tecla(Qt::Key tecla, Qt::KeyboardModifiers estado = Qt::NoModifier);
     void Digitar(const QString &texto);
-    /** Photographs the modal box that the next key opens and presses a key in it. */
+    void Clicar(QWidget *onde);
+    /** Clicks on the mark of a check box or radio button, which may be wider than its text. */
+    void Marcar(QAbstractButton *botao);
+    /** Clicks into an input and types over what it holds. */
+    void DigitarEm(QWidget *entrada, const QString &texto);
+    /** A component of the active screen. */
+    template <typename T>
+    T *Achar(const char *nome) const
+    {
+        T *achado = janela.FilhoAtivo()->findChild<T *>(QString::fromLatin1(nome));
+        ExigirComponente(achado, nome);
+        return achado;
+    }
+    /** A frame of the gallery, brought into view. */
+    template <typename T>
+    T *NoMostruario()
+    {
+        T *achado = janela.FilhoAtivo()->findChild<T *>();
+        ExigirComponente(achado, T::staticMetaObject.className());
+        Mostrar(achado);
+        return achado;
+    }
+    void Mostrar(QWidget *frame);
+    static void ExigirComponente(const QObject *achado, const char *nome);
+    /** Runs f once a modal box is there; the box's own event loop calls it. */
+    static void QuandoHouverCaixa(std::function<void(QWidget *)> f, int faltam = 5000);
+    static void Dizer(const QString &texto);
+    /** Runs f in the modal box that the next key or click opens. What f raises ends the step. */
+    void NaCaixa(std::function<void(QWidget *)> f);
+    /** Photographs that box and presses a key in it. */
     void ResponderCaixa(const QString &foto, Qt::Key tecla);
     /** Closes and remembers a box that no step waits for, so that the tour ends with an error
      * instead of waiting for a person. */
@@ -61,6 +113,7 @@ private:
     int fotos = 0;
     int caixasPendentes = 0;
     bool caixaInesperada = false;
+    std::exception_ptr falhaNaCaixa;
 };
 
 } // namespace comercial

@@ -44,7 +44,7 @@ TOpcoes LerOpcoes(const QApplication &app)
         {QStringLiteral("tour"), QStringLiteral("Percorre o programa com teclas de verdade")},
         {QStringLiteral("pasta"), QStringLiteral("Onde o passeio deixa as fotografias"),
          QStringLiteral("pasta"), QStringLiteral("build/tour")},
-        {QStringLiteral("abrir"), QStringLiteral("Abre uma tela: grupos ou produtos"),
+        {QStringLiteral("abrir"), QStringLiteral("Abre uma tela: grupos, produtos ou clientes"),
          QStringLiteral("tela")},
         {QStringLiteral("gerar-guia"),
          QStringLiteral("Acrescenta ruas inventadas ao guia de CEPs, para medições, e termina"),

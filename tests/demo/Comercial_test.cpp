@@ -250,11 +250,12 @@ TEST_F(ComercialTest, TheTourRunsToItsEnd)
     ASSERT_TRUE(passeio.waitForFinished(240000));
     EXPECT_EQ(passeio.exitCode(), 0) << passeio.Erros().toStdString();
     const QStringList fotos = QDir(Arquivo("passeio")).entryList({QStringLiteral("*.png")});
-    EXPECT_GE(fotos.size(), 20);
+    EXPECT_GE(fotos.size(), 50);
     const QString dito = QString::fromUtf8(passeio.readAllStandardOutput());
-    EXPECT_TRUE(dito.contains(QStringLiteral("Antes: 8 grupos, 256 produtos")));
-    EXPECT_TRUE(dito.contains(QStringLiteral("Depois: 9 grupos, 257 produtos")));
+    EXPECT_TRUE(dito.contains(QStringLiteral("Antes: 8 grupos, 256 produtos, 320 clientes")));
+    EXPECT_TRUE(dito.contains(QStringLiteral("Depois: 9 grupos, 257 produtos, 321 clientes")));
     EXPECT_TRUE(dito.contains(QStringLiteral("Vaso de cerâmica")));
+    EXPECT_TRUE(dito.contains(QStringLiteral("último cliente: 321 Inês Araújo de Souza")));
 }
 
 } // namespace
