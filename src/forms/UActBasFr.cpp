@@ -100,10 +100,10 @@ void TActBasFr::AmpliarActExecute(QObject *)
     BeforeContainerShow(container);
     if (container)
         container->ShowModal();
-    if (!vivo)
-        return;
-    RelerFonte();
-    AtualizarExibicao();
+    if (vivo)
+        RelerFonte();
+    if (vivo)
+        AtualizarExibicao();
 }
 
 TActBasFr *TActBasFr::NovaCopia(QWidget *dono) const

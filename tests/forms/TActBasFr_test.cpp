@@ -43,8 +43,9 @@ public:
     void RelerFonte() override
     {
         Anotar("RelerFonte");
-        if (aoReler)
-            aoReler();
+        const auto handler = aoReler; // it may destroy the frame
+        if (handler)
+            handler();
     }
     void AntesTrocarCod() override { Anotar("AntesTrocarCod"); }
     void Atualizar() override { ++atualizacoes; }
@@ -323,6 +324,38 @@ TEST_F(TActBasFrTest, TheFrameMayDestroyItselfInItsOwnAction)
     Ampliar([](TActContainerF *janela) { janela->Close(); });
     Girar();
     EXPECT_FALSE(fr);
+}
+
+TEST_F(TActBasFrTest, TheFrameMayBeGoneAtOnceInItsOwnAction)
+{
+    fr->aoReler = [this] { delete fr.data(); };
+    Ampliar([](TActContainerF *janela) { janela->Close(); });
+    EXPECT_FALSE(fr);
+    EXPECT_TRUE(TSaldoFr::vivos.isEmpty());
+}
+
+TEST_F(TActBasFrTest, TheWindowMayLoseTheActionListOfItsCopyAndTheFrameItsOwn)
+{
+    Ampliar([this](TActContainerF *janela) {
+        delete janela->ActFr->ActionList1;
+        delete fr->ActionList1;
+        Girar();
+        janela->Atualizar();
+        QTest::mouseClick(janela->ActFr->AmplToolButton, Qt::LeftButton);
+        janela->Close();
+    });
+    EXPECT_TRUE(fr);
+    EXPECT_EQ(TSaldoFr::vivos.size(), 1);
+}
+
+TEST_F(TActBasFrTest, WithoutACodeTheCopyReadsNothing)
+{
+    Ampliar([](TActContainerF *janela) {
+        auto *copia = qobject_cast<TSaldoFr *>(janela->ActFr);
+        EXPECT_EQ(copia->GetCod1(), -1);
+        EXPECT_EQ(copia->ganchos, QStringList());
+        janela->Close();
+    });
 }
 
 TEST_F(TActBasFrTest, TheActionListMayGoBeforeItsFrame)
