@@ -2,7 +2,7 @@
 
 #include "platform/core/Erros.h"
 
-#include <QSet>
+#include <QHash>
 
 #include <utility>
 
@@ -12,10 +12,10 @@ namespace ficha
 namespace
 {
 
-/** Every item that is alive. Never destroyed itself: items may be static objects. */
-QSet<std::intptr_t> &Vivos()
+/** Every item that is alive, by its number. Never destroyed itself: items may be static objects. */
+QHash<std::intptr_t, TArvItem *> &Vivos()
 {
-    static auto *vivos = new QSet<std::intptr_t>;
+    static auto *vivos = new QHash<std::intptr_t, TArvItem *>;
     return *vivos;
 }
 
@@ -23,7 +23,7 @@ QSet<std::intptr_t> &Vivos()
 
 TArvItem::TArvItem()
 {
-    Vivos().insert(Objeto());
+    Vivos().insert(Objeto(), this);
 }
 
 TArvItem::~TArvItem()
@@ -86,7 +86,7 @@ int TArvItem::NLins() const
 
 TArvItem *TArvItem::De(std::intptr_t objeto)
 {
-    return Vivos().contains(objeto) ? reinterpret_cast<TArvItem *>(objeto) : nullptr;
+    return Vivos().value(objeto, nullptr);
 }
 
 /** What is above is counted again too, up to where that is known already. */
