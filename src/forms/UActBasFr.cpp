@@ -29,6 +29,7 @@ TActBasFr::TActBasFr(TChave chave) : TBasFr(chave) {}
 void TActBasFr::Create(QWidget *owner)
 {
     TBasFr::Create(owner);
+    cod1 = -1;
     ToolBar1->SetImages(SisD().ImageList16);
     ToolBar1->SetDisabledImages(SisD().DisImageList16);
     ActionList1->SetImages(SisD().ImageList16);

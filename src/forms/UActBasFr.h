@@ -27,7 +27,8 @@ class TActBasFr : public TBasFr
 public:
     explicit TActBasFr(TChave chave);
 
-    /** Takes the pictures of the tool bar and the actions from SisD(). */
+    /** Starts without a code (-1), whatever Preparar did; takes the pictures of the tool bar and
+     * the actions from SisD(). */
     void Create(QWidget *owner) override;
 
     /** The code is new: here RelerFonte. */

@@ -175,6 +175,18 @@ TEST_F(TActBasFrTest, ANewCodeRunsTheHooksInTheirOrderAndTheSameOneNone)
     EXPECT_EQ(fr->ganchos, todos);
 }
 
+TEST_F(TActBasFrTest, ANewFrameHasNoCodeWhateverItsPreparationDid)
+{
+    class TApressadoFr : public TActBasFr
+    {
+    public:
+        using TActBasFr::TActBasFr;
+        void Preparar() override { PegarCodSemProcessar(5); }
+    };
+    const std::unique_ptr<TApressadoFr> outro(Criar<TApressadoFr>(nullptr));
+    EXPECT_EQ(outro->GetCod1(), -1);
+}
+
 TEST_F(TActBasFrTest, TheFrameIsRefreshedAtIdleTimeWhileItIsVisible)
 {
     fr->atualizacoes = 0;
