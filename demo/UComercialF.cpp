@@ -1,5 +1,6 @@
 #include "demo/UComercialF.h"
 
+#include "demo/UCepsF.h"
 #include "demo/UClientesF.h"
 #include "demo/UGruposF.h"
 #include "demo/UMostruarioF.h"
@@ -48,6 +49,7 @@ void TComercialF::MontarMenus()
     acao(cadastros, QStringLiteral("&Grupos"), Qt::Key_F2, [this] { Abrir<TGruposF>(); });
     acao(cadastros, QStringLiteral("&Produtos"), Qt::Key_F3, [this] { Abrir<TProdutosF>(); });
     acao(cadastros, QStringLiteral("C&lientes"), Qt::Key_F4, [this] { Abrir<TClientesF>(); });
+    acao(cadastros, QStringLiteral("&CEPs"), Qt::Key_F7, [this] { Abrir<TCepsF>(); });
     acao(cadastros, QStringLiteral("&Mostruário"), Qt::Key_F9, [this] { Abrir<TMostruarioF>(); });
     cadastros->addSeparator();
     acao(cadastros, QStringLiteral("&Sair"), Qt::ALT | Qt::Key_F4, [this] { Close(); });

@@ -165,7 +165,8 @@ begin
         trim(substring(:complementos from 1 + 14 * mod(:m / 36, 36) for 14)));
       nestemun = iif(mod(m, 9) = 8, 1, 120 + mod(m * 37, 120));
     end
-    i = 0; b = 0;
+    -- The capitals have their centre already.
+    i = 0; b = iif(m = 0, 1, 0);
     while (i < nestemun and n < ruas) do begin
       if (mod(i, 30) = 0) then begin
         bai = bai + 1;
