@@ -1,17 +1,14 @@
 #include "demo/UClientesF.h"
 
-#include "demo/UGruposF.h"
+#include "demo/UComboDeGrupos.h"
 #include "input/ULabeledEditTextoBasFr.h"
 #include "platform/edits/TCNPJEditBR.h"
 #include "platform/edits/TCPFEditBR.h"
 #include "platform/edits/TFoneEditBR.h"
 #include "platform/edits/TMaskEditBR.h"
-#include "platform/hostforms/TPrincipalMDIF.h"
 #include "platform/support/Mensagens.h"
 #include "platform/support/Textos.h"
 #include "platform/toolkit/Evento.h"
-#include "platform/toolkit/TAction.h"
-#include "platform/toolkit/TActionList.h"
 #include "platform/toolkit/TComboBox.h"
 #include "platform/toolkit/TMaskEdit.h"
 #include "platform/toolkit/TRadioGroup.h"
@@ -110,16 +107,10 @@ void TClientesF::FormCreate(QObject *sender)
         "lpad(extract(month from c.nascimento), 2, '0') || "
         "lpad(extract(year from c.nascimento), 4, '0') as digitos_nasc, "
         "c.mun || '/' || c.uf as cidade, "
-        "trim(iif(c.ddd = '' or c.fone1 = '', '', '(' || c.ddd || ') ') || c.fone1) as telefone, "
-        "g.descricao as grupo "
-        "from clientes c left join grupos g on g.grupos_cod = c.grupos_cod order by c.nome"));
+        "trim(iif(c.ddd = '' or c.fone1 = '', '', '(' || c.ddd || ') ') || c.fone1) as telefone "
+        "from clientes c order by c.nome"));
     TTabLinearBasF::FormCreate(sender);
-    GrupoFr->SetSQLText(
-        QStringLiteral("select grupos_cod, descricao from grupos order by descricao"));
-    auto *abrirGrupos = new TAction(ActionList1);
-    abrirGrupos->OnExecute = [](QObject *) { TPrincipalMDIF::Atual()->Abrir<TGruposF>(); };
-    GrupoFr->SelecionarAction = abrirGrupos;
-    GrupoFr->NomeFormSelecionar = QStringLiteral("GruposF");
+    OferecerGrupos(GrupoFr, ActionList1);
     LigarDocumentos();
     LigarEntradas();
 }

@@ -1,9 +1,6 @@
 #include "demo/UProdutosF.h"
 
-#include "demo/UGruposF.h"
-#include "platform/hostforms/TPrincipalMDIF.h"
-#include "platform/toolkit/TAction.h"
-#include "platform/toolkit/TActionList.h"
+#include "demo/UComboDeGrupos.h"
 #include "platform/toolkit/TRadioGroup.h"
 
 using namespace ficha;
@@ -34,12 +31,7 @@ void TProdutosF::FormCreate(QObject *sender)
         "p.estoque, p.unidade, p.ativo, p.observacao, p.cod_barras from produtos p "
         "join grupos g on g.grupos_cod = p.grupos_cod order by p.descricao"));
     TTabLinearBasF::FormCreate(sender);
-    GrupoFr->SetSQLText(
-        QStringLiteral("select grupos_cod, descricao from grupos order by descricao"));
-    auto *abrirGrupos = new TAction(ActionList1);
-    abrirGrupos->OnExecute = [](QObject *) { TPrincipalMDIF::Atual()->Abrir<TGruposF>(); };
-    GrupoFr->SelecionarAction = abrirGrupos;
-    GrupoFr->NomeFormSelecionar = QStringLiteral("GruposF");
+    OferecerGrupos(GrupoFr, ActionList1);
 }
 
 void TProdutosF::Rotular()

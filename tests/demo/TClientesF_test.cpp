@@ -111,20 +111,26 @@ protected:
     {
         return tela->findChild<T *>(QString::fromLatin1(nome));
     }
-    static void Tecla(int tecla, Qt::KeyboardModifiers com = Qt::NoModifier)
+    /** Where a person's keys would go: offscreen, a list that closes leaves no window active. */
+    QWidget *Alvo() const
     {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key(tecla), com);
+        QWidget *foco = QApplication::focusWidget();
+        return foco ? foco : janela->focusWidget();
+    }
+    void Tecla(int tecla, Qt::KeyboardModifiers com = Qt::NoModifier)
+    {
+        QTest::keyClick(Alvo(), Qt::Key(tecla), com);
         Assentar();
     }
-    static void Digitar(const QString &texto)
+    void Digitar(const QString &texto)
     {
         for (const QChar letra : texto)
-            QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(),
-                                Qt::Key(letra.toUpper().unicode()), letra, Qt::NoModifier);
+            QTest::sendKeyEvent(QTest::Click, Alvo(), Qt::Key(letra.toUpper().unicode()), letra,
+                                Qt::NoModifier);
         Assentar();
     }
     /** Clicks into an input and types over what it holds. */
-    static void DigitarEm(QWidget *entrada, const QString &texto)
+    void DigitarEm(QWidget *entrada, const QString &texto)
     {
         QTest::mouseClick(entrada, Qt::LeftButton);
         Tecla(Qt::Key_Home);
@@ -490,6 +496,24 @@ TEST_F(TClientesFTest, TheListsOfTheAddressAreThoseOfTheClientShown)
         EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso) << "looking alters nothing";
     }
     EXPECT_EQ(perguntas, QStringList());
+}
+
+TEST_F(TClientesFTest, AGroupIsChosenByItsNameAndMayBeLeftEmpty)
+{
+    AbrirEm(3);
+    auto *grupo = Frame<TComboBoxCodBasFr>("GrupoFr");
+    EXPECT_EQ(Coluna("grupos_cod", 3), QStringLiteral("(nulo)"));
+    EXPECT_EQ(grupo->ComboBox1->GetText(), QString());
+    DigitarEm(grupo->ComboBox1, QStringLiteral("Limpeza"));
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(Coluna("grupos_cod", 3), QStringLiteral("3"));
+    QTest::mouseClick(grupo->ComboBox1, Qt::LeftButton);
+    Tecla(Qt::Key_End);
+    Tecla(Qt::Key_Home, Qt::ShiftModifier);
+    Tecla(Qt::Key_Delete);
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
+    EXPECT_EQ(Coluna("grupos_cod", 3), QStringLiteral("(nulo)"));
 }
 
 TEST_F(TClientesFTest, APictureIsChosenAndCleared)
