@@ -52,7 +52,7 @@ const QSet<QString> &NomesDoLayout(const QString &classe)
         if (xml.readNext() == QXmlStreamReader::StartElement &&
             QSet<QStringView>({u"widget", u"action", u"actiongroup", u"spacer"})
                 .contains(xml.name()))
-            nomes << xml.attributes().value(u"name").toString();
+            nomes << xml.attributes().value(QStringLiteral("name")).toString();
     }
     return nomes;
 }
