@@ -17,7 +17,7 @@ constexpr std::pair<int, const char *> Figuras[] = {
     {3, "cancelar"},
     {9, "desfazer"},
     {10, "confirmar"},
-    {16, "campos"},
+    {16, "folha"},
     {17, "desfazer"},
     {18, "localizar-imagem"},
     {19, "config-impressao"},

@@ -11,11 +11,11 @@ class TImageList;
  * The image module that serves a host which brings none of its own: TFicha puts its lists into
  * SisD() where they are missing.
  *
- * Indices at 16 pixels: 1 enlarge, 2 and 10 confirm, 3 cancel, 9 and 17 undo, 16 fields page, 18
- * find a picture, 19 printer set-up, 20 print, 29 list page, 30 delete, 45 insert, 46 alter, 49
- * search, 50 filter, 51 reports page, 52 upkeep page; of date ranges 31 up to today, 32 from today
- * on, 33 seven days, 34 today, 35 a month, 36 four weeks, 37 all. Markers: 8 and 9 the sort arrows,
- * 25 collapsed, 26 expanded.
+ * Indices at 16 pixels: 1 enlarge, 2 and 10 confirm, 3 cancel, 9 and 17 undo, 16 a blank sheet (the
+ * fields page, clearing a picture), 18 find a picture, 19 printer set-up, 20 print, 29 list page,
+ * 30 delete, 45 insert, 46 alter, 49 search, 50 filter, 51 reports page, 52 upkeep page; of date
+ * ranges 31 up to today, 32 from today on, 33 seven days, 34 today, 35 a month, 36 four weeks, 37
+ * all. Markers: 8 and 9 the sort arrows, 25 collapsed, 26 expanded.
  */
 class TImgD : public QObject
 {

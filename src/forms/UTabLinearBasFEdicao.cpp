@@ -446,6 +446,9 @@ void TTabLinearBasF::CancelarActionExecute(QObject *)
     const TFlagGuarda ligado(this, &TTabLinearBasF::AtualizarLigado, false);
     insersaoGravada = false;
     if (Tab->Status == TStatus::Inserindo) {
+        // An input that is emptied may ask for an alteration, which without records would be the
+        // next insertion.
+        const TFlagGuarda guarda(this, &TTabLinearBasF::ativando, true);
         Tab->InsCancel();
     } else if (Tab->Status == TStatus::Alterando) {
         Tab->AltCancel();

@@ -10,6 +10,7 @@
 #include <QScrollArea>
 #include <QScroller>
 #include <QStyle>
+#include <QWindow>
 
 namespace ficha
 {
@@ -24,12 +25,13 @@ constexpr int LadoDeProjeto = 105;
 /** Room for a window's frame where none can be measured. */
 constexpr QSize MolduraSuposta(16, 48);
 
-/** What the frame of a window takes, told by another window of the program. */
+/** What the frame of a window takes, told by another window of the program; invalid when that is
+ * not to be seen. Our own has none before it is on the screen. */
 QSize Moldura(const QWidget *outra)
 {
-    if (!outra || !outra->isVisible())
-        return MolduraSuposta;
-    return outra->frameGeometry().size() - outra->geometry().size();
+    if (!outra || !outra->window()->isVisible())
+        return {};
+    return outra->window()->frameGeometry().size() - outra->window()->geometry().size();
 }
 } // namespace
 
@@ -65,16 +67,23 @@ void TZoomBasF::FormShow(QObject *sender)
     TBasF::FormShow(sender);
     AjustarTamanho();
     const QRect tela = screen()->geometry();
-    move(tela.x() + (tela.width() - frameGeometry().width()) / 2,
-         tela.y() + (tela.height() - frameGeometry().height()) / 2);
+    const QSize janela = size() + Moldura(parentWidget()).expandedTo({0, 0});
+    const QPoint onde = tela.topLeft() + QPoint((tela.width() - janela.width()) / 2,
+                                                (tela.height() - janela.height()) / 2);
+    // A widget is moved without the frame that it does not have yet.
+    if (windowHandle())
+        windowHandle()->setFramePosition(onde);
+    else
+        move(onde);
     rolagem->setFocus();
 }
 
 /** The picture's size, as far as the screen has room for it and the window's frame. */
 void TZoomBasF::AjustarTamanho()
 {
-    const QSize lugar = screen()->availableGeometry().size() -
-                        Moldura(parentWidget() ? parentWidget()->window() : nullptr);
+    const QSize medida = Moldura(parentWidget());
+    const QSize lugar =
+        screen()->availableGeometry().size() - (medida.isValid() ? medida : MolduraSuposta);
     QSize tamanho = Image1->size();
     // A bar on one side takes room from the other.
     const int barra = rolagem->style()->pixelMetric(QStyle::PM_ScrollBarExtent);

@@ -1,6 +1,7 @@
 #include "records/UCampos.h"
 
 #include <algorithm>
+#include <exception>
 
 namespace ficha
 {
@@ -46,8 +47,17 @@ void TCampos::PegarValores()
 
 void TCampos::PreencherControls()
 {
-    for (const auto &campo : itens)
-        campo->PreencherControl();
+    std::exception_ptr primeiro;
+    for (const auto &campo : itens) {
+        try {
+            campo->PreencherControl();
+        } catch (...) {
+            if (!primeiro)
+                primeiro = std::current_exception();
+        }
+    }
+    if (primeiro)
+        std::rethrow_exception(primeiro);
 }
 
 void TCampos::Undo()

@@ -26,6 +26,8 @@ public:
     int NChaves() const;
     int NVisiveis() const;
     void PegarValores();
+    /** Shows every field in its input. An input that raises, as a picture does whose file is
+     * damaged, keeps no other from its value: the first error is raised when all are shown. */
     void PreencherControls();
     void Undo();
     bool CanUndo() const;

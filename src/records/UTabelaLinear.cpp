@@ -291,14 +291,14 @@ void TTabelaLinear::SetRecno(int n)
     const int registros = NRegistros();
     if (registros == 0) {
         Fim = true;
-        LerRegistro();
         RecNo = -1;
+        LerRegistro();
         return;
     }
     RecNo = std::max(1, std::min(n, registros));
     PosicionarDataSet(RecNo);
-    LerRegistro();
     Fim = false;
+    LerRegistro();
 }
 
 void TTabelaLinear::LerRegistro()

@@ -20,6 +20,8 @@ namespace
 class TZoomBasFTest : public testing::Test
 {
 protected:
+    TZoomBasFTest() { dono->show(); }
+
     QString Foto(QSize tamanho)
     {
         return pasta.Gravar(QStringLiteral("foto.bmp"),

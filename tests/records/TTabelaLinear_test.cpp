@@ -27,11 +27,14 @@ public:
     {
         valor = v;
         ++escritas;
+        if (falha)
+            throw EErro(QStringLiteral("não se mostra"));
     }
     Variant GetValor() const override { return valor; }
     void Zerar() override { valor = Variant(); }
     Variant valor;
     int escritas = 0;
+    bool falha = false;
 };
 
 class TTabelaLinearTest : public testing::Test
@@ -223,6 +226,19 @@ TEST_F(TTabelaLinearTest, TheGridShowsTitlesWidthsAndRows)
     EXPECT_EQ(tab->Campos->Campos(2)->Valor, Variant(20)) << "invisible fields are back too";
     EXPECT_TRUE(tab->AtualizarControles);
     EXPECT_EQ(fr->escritas, 0) << "restored only after the last move";
+}
+
+TEST_F(TTabelaLinearTest, AnInputThatRaisesKeepsNoOtherFromItsValueAndTheTableFromItsRow)
+{
+    Abrir({1, 2, 3});
+    LigarTudo();
+    tab->First();
+    fr->falha = true;
+    EXPECT_THROW(tab->SetRecno(3), EErro);
+    EXPECT_EQ(fr->valor, Variant(3));
+    EXPECT_EQ(edit.text(), QStringLiteral("nome 3")) << "behind the one that raised";
+    EXPECT_EQ(tab->RecNo, 3);
+    EXPECT_FALSE(tab->Fim);
 }
 
 TEST_F(TTabelaLinearTest, AnEmptyTableLeavesTheTitleRowAndOneBlankRow)
