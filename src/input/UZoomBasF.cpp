@@ -6,9 +6,10 @@
 
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QScreen>
 #include <QScrollArea>
-#include <QScroller>
+#include <QScrollBar>
 #include <QStyle>
 #include <QWindow>
 
@@ -59,7 +60,7 @@ void TZoomBasF::PegarComponentes()
     rolagem->setFrameShape(QFrame::NoFrame);
     rolagem->setWidget(Image1);
     Alinhar(rolagem, alClient);
-    QScroller::grabGesture(rolagem->viewport(), QScroller::LeftMouseButtonGesture);
+    Image1->installEventFilter(this);
 }
 
 void TZoomBasF::FormShow(QObject *sender)
@@ -92,6 +93,25 @@ void TZoomBasF::AjustarTamanho()
     if (tamanho.height() > lugar.height())
         tamanho.rwidth() += barra;
     resize(tamanho.boundedTo(lugar).expandedTo({LadoDeProjeto, LadoDeProjeto}));
+}
+
+/** Dragging the picture scrolls it: it follows the mouse. */
+bool TZoomBasF::eventFilter(QObject *objeto, QEvent *evento)
+{
+    if (objeto == Image1 && evento->type() == QEvent::MouseButtonPress) {
+        arrastado = static_cast<QMouseEvent *>(evento)->globalPosition().toPoint();
+    } else if (objeto == Image1 && evento->type() == QEvent::MouseMove) {
+        const auto *mouse = static_cast<QMouseEvent *>(evento);
+        const QPoint aqui = mouse->globalPosition().toPoint();
+        if (mouse->buttons() & Qt::LeftButton) {
+            QScrollBar *deLado = rolagem->horizontalScrollBar();
+            QScrollBar *emPe = rolagem->verticalScrollBar();
+            deLado->setValue(deLado->value() + arrastado.x() - aqui.x());
+            emPe->setValue(emPe->value() + arrastado.y() - aqui.y());
+        }
+        arrastado = aqui;
+    }
+    return TBasF::eventFilter(objeto, evento);
 }
 
 void TZoomBasF::keyPressEvent(QKeyEvent *evento)

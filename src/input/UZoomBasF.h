@@ -2,6 +2,8 @@
 
 #include "platform/hostforms/TBasF.h"
 
+#include <QPoint>
+
 class QLabel;
 class QScrollArea;
 
@@ -32,12 +34,15 @@ public:
 protected:
     void PegarComponentes() override;
     void FormShow(QObject *sender) override;
+    bool eventFilter(QObject *objeto, QEvent *evento) override;
     void keyPressEvent(QKeyEvent *evento) override;
 
 private:
     void AjustarTamanho();
 
     QScrollArea *rolagem = nullptr;
+    /** Where the mouse was last. */
+    QPoint arrastado;
 };
 
 /** The form that a frame is showing; null when none does. */

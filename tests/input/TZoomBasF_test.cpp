@@ -92,6 +92,16 @@ TEST_F(TZoomBasFTest, APictureLargerThanTheScreenIsScrolledInAFormThatFitsOnIt)
         EXPECT_TRUE(Rolagem()->horizontalScrollBar()->isVisible());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
         EXPECT_GT(Rolagem()->horizontalScrollBar()->value(), 0) << "by keyboard";
+        const int antes = Rolagem()->verticalScrollBar()->value();
+        const QPoint onde = zoom->Image1->mapFrom(Rolagem()->viewport(), QPoint(100, 100));
+        QTest::mousePress(zoom->Image1, Qt::LeftButton, {}, onde);
+        // The mouse moves on the screen; the picture goes along, so its own point stays.
+        const QPoint tela100 = Rolagem()->viewport()->mapToGlobal(QPoint(100, 60));
+        QMouseEvent move(QEvent::MouseMove, QPointF(onde), QPointF(tela100), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(zoom->Image1, &move);
+        EXPECT_EQ(Rolagem()->verticalScrollBar()->value(), antes + 40) << "by dragging";
+        QTest::mouseRelease(zoom->Image1, Qt::LeftButton);
         Rolagem()->verticalScrollBar()->setValue(100'000);
         EXPECT_EQ(Rolagem()->verticalScrollBar()->value(), 2500 - Rolagem()->viewport()->height());
     });

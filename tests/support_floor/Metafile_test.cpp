@@ -316,18 +316,59 @@ TEST(TMetafile, MoreRecordsThanTheLimitAreRefused)
     EXPECT_THROW(TMetafile(w.Arquivo()), EImagemInvalida);
 }
 
+TEST(TMetafile, OneRecordOfTooManyPointsIsRefused)
+{
+    TGravadorWmf w;
+    w.Janela(0, 0, 100, 100);
+    w.Por(W::PolyPolygon, {3, 30000, 30000, 30000}, QByteArray(90000 * 4, '\1'));
+    EXPECT_THROW(TMetafile(w.Arquivo()), EImagemInvalida);
+}
+
+TEST(TMetafile, InAMetricPlaneYGrowsUpwards)
+{
+    TGravadorWmf w;
+    w.Por(W::SetMapMode, {2});
+    w.Pena(W::SemContorno, 0, 0);
+    w.Pincel(Vermelho);
+    w.Retangulo(0, 0, 100, 50);
+    w.Pincel(Azul);
+    w.Retangulo(0, 50, 100, 100);
+    w.Por(W::DIBStretchBlt, {0x0020, 0x00CC, 2, 2, 0, 0, -40, 40, 100, 60}, DibDeQuatroCores());
+    const QImage i = TMetafile(w.Arquivo()).Desenhar({100, 100});
+    EXPECT_EQ(i.pixelColor(20, 80), QColor(Qt::red));
+    EXPECT_EQ(i.pixelColor(20, 20), QColor(Qt::blue));
+    EXPECT_EQ(i.pixelColor(62, 2), QColor(Qt::red)) << "the bitmap stands upright";
+    EXPECT_EQ(i.pixelColor(97, 37), QColor(Qt::black));
+}
+
+TEST(TMetafile, MoreLinesThanAPictureHoldsAreGivenUpBeforeTheyAreDrawn)
+{
+    for (const int estilo : {0, 1}) {
+        TGravadorWmf w;
+        w.Janela(-32000, -32000, 64000 / 2, 64000 / 2);
+        w.Pena(estilo, 1, Vermelho);
+        QByteArray pontos;
+        for (int n = 0; n < 30000; ++n) {
+            W::U16(pontos, n % 2 ? 0 : -32000);
+            W::U16(pontos, n % 3 ? 0 : -32000);
+        }
+        w.Por(W::Polygon, {30000}, pontos);
+        const TMetafile m(w.Arquivo());
+        QElapsedTimer relogio;
+        relogio.start();
+        EXPECT_THROW((void)m.Desenhar({700, 700}), EImagemInvalida);
+        EXPECT_LT(relogio.elapsed(), 5000) << "drawing them takes minutes";
+    }
+}
+
 TEST(TMetafile, ADrawingThatTakesLongerThanItsTimeIsGivenUp)
 {
     TGravadorWmf w;
-    w.Janela(0, 0, 1, 1);
-    w.Pena(1, 1, Vermelho);
-    QByteArray pontos;
-    for (int n = 0; n < 16000; ++n) {
-        W::U16(pontos, n % 2 ? 32000 : -32000);
-        W::U16(pontos, n % 3 ? 32000 : -32000);
-    }
-    for (int n = 0; n < 400; ++n)
-        w.Por(W::Polygon, {16000}, pontos);
+    w.Janela(0, 0, 200, 200);
+    w.Pena(W::SemContorno, 0, 0);
+    w.Pincel(Vermelho);
+    for (int n = 0; n < 100'000; ++n)
+        w.Por(W::Ellipse, {200, 200, 0, 0});
     const TRegistrosWmf lido = LerRegistrosWmf(w.Arquivo());
     QImage tela(800, 800, QImage::Format_RGB32);
     tela.fill(Qt::white);
@@ -338,6 +379,7 @@ TEST(TMetafile, ADrawingThatTakesLongerThanItsTimeIsGivenUp)
                  lido.bitmaps, tela, 4, 1),
         EImagemInvalida);
     EXPECT_GT(relogio.elapsed(), 1000) << "the drawing really takes longer than its time";
+    EXPECT_LT(relogio.elapsed(), 5000);
 }
 
 TEST(TMetafile, DamagedFilesAreDrawnOrRefusedButNeverEndTheProgram)

@@ -28,6 +28,9 @@ namespace
 /** Beyond this a point is far outside any picture. */
 constexpr double MaiorCoordenada = 30'000;
 constexpr qreal MaiorPena = 4096;
+/** Pixels of line in one drawing, and of broken line in one record, which takes ten times longer.
+ */
+constexpr double MaisTraco = 15e6, MaisTracejado = 1e5, CustoDoTracejado = 10;
 /** Letters are measured at this size, in pixels. */
 constexpr int TamanhoDeMedida = 100;
 
@@ -115,7 +118,8 @@ public:
         relogio.start();
     }
 
-    bool Passou() const { return relogio.elapsed() > limite; }
+    /** More time, or more lines, than a picture takes. */
+    bool Passou() const { return gasto > MaisTraco || relogio.elapsed() > limite; }
 
     void Pixel(const wmfDrawPixel_t &d);
     void Linha(const wmfDrawLine_t &d);
@@ -142,12 +146,16 @@ private:
     static QPointF Alinhado(const QFontMetricsF &medidas, const QString &texto, int alinhamento);
     QPen Pena(const wmfDC &dc) const;
     static QBrush Pincel(const wmfDC &dc);
-    void Preparar(const wmfDC &dc);
+    double Comprimento(const QPolygonF &pontos) const;
+    static QPolygonF Pontos(const wmfD_Coord *pontos, int quantos);
+    bool Preparar(const wmfDC &dc, double comprimento);
 
     QPainter pintor;
     const std::vector<QImage> &bitmaps;
     int fineza;
     qint64 limite;
+    /** Pixels of line drawn so far; one record alone can hold minutes of them. */
+    double gasto = 0;
     QElapsedTimer relogio;
 };
 
@@ -198,13 +206,40 @@ QBrush TDispositivo::Pincel(const wmfDC &dc)
     }
 }
 
-void TDispositivo::Preparar(const wmfDC &dc)
+QPolygonF TDispositivo::Pontos(const wmfD_Coord *pontos, int quantos)
 {
-    pintor.setPen(Pena(dc));
+    QPolygonF poligono;
+    poligono.reserve(quantos);
+    for (int i = 0; i < quantos; ++i)
+        poligono << Ponto(pontos[i]);
+    return poligono;
+}
+
+/** As far as it counts: what runs far outside the picture is cut off there. */
+double TDispositivo::Comprimento(const QPolygonF &pontos) const
+{
+    const double longe = 2.0 * (pintor.device()->width() + pintor.device()->height());
+    double soma = 0;
+    for (qsizetype i = 1; i < pontos.size(); ++i)
+        soma += std::min(longe, QLineF(pontos[i - 1], pontos[i]).length());
+    return soma;
+}
+
+/** Takes pen and brush for a line of so many pixels; false when there were too many. */
+bool TDispositivo::Preparar(const wmfDC &dc, double comprimento)
+{
+    QPen pena = Pena(dc);
+    if (pena.style() != Qt::NoPen) {
+        if (comprimento > MaisTracejado)
+            pena.setStyle(Qt::SolidLine);
+        gasto += comprimento * (pena.style() == Qt::SolidLine ? 1 : CustoDoTracejado);
+    }
+    pintor.setPen(pena);
     pintor.setBrush(Pincel(dc));
     const bool valido = dc.ROPmode >= 1 && dc.ROPmode <= Rop2.size();
     pintor.setCompositionMode(valido ? Rop2[dc.ROPmode - 1U]
                                      : QPainter::CompositionMode_SourceOver);
+    return gasto <= MaisTraco;
 }
 
 void TDispositivo::Pixel(const wmfDrawPixel_t &d)
@@ -217,47 +252,46 @@ void TDispositivo::Pixel(const wmfDrawPixel_t &d)
 
 void TDispositivo::Linha(const wmfDrawLine_t &d)
 {
-    Preparar(*d.dc);
-    pintor.drawLine(Ponto(d.from), Ponto(d.to));
+    const QPolygonF pontos({Ponto(d.from), Ponto(d.to)});
+    if (Preparar(*d.dc, Comprimento(pontos)))
+        pintor.drawPolyline(pontos);
 }
 
 void TDispositivo::Polilinha(const wmfPolyLine_t &d)
 {
-    Preparar(*d.dc);
-    QPolygonF pontos;
-    for (int i = 0; i < d.count; ++i)
-        pontos << Ponto(d.pt[i]);
-    pintor.drawPolyline(pontos);
+    const QPolygonF pontos = Pontos(d.pt, d.count);
+    if (Preparar(*d.dc, Comprimento(pontos)))
+        pintor.drawPolyline(pontos);
 }
 
 void TDispositivo::Poligono(const wmfPolyLine_t &d)
 {
-    Preparar(*d.dc);
-    QPolygonF pontos;
-    for (int i = 0; i < d.count; ++i)
-        pontos << Ponto(d.pt[i]);
-    pintor.drawPolygon(pontos, d.dc->polyfillmode == WINDING ? Qt::WindingFill : Qt::OddEvenFill);
+    const QPolygonF pontos = Pontos(d.pt, d.count);
+    if (Preparar(*d.dc, Comprimento(pontos)))
+        pintor.drawPolygon(pontos,
+                           d.dc->polyfillmode == WINDING ? Qt::WindingFill : Qt::OddEvenFill);
 }
 
 void TDispositivo::Poligonos(const wmfPolyPoly_t &d)
 {
-    Preparar(*d.dc);
     QPainterPath caminho;
     caminho.setFillRule(d.dc->polyfillmode == WINDING ? Qt::WindingFill : Qt::OddEvenFill);
+    double comprimento = 0;
     for (int i = 0; i < d.npoly; ++i) {
-        QPolygonF pontos;
-        for (int k = 0; k < d.count[i]; ++k)
-            pontos << Ponto(d.pt[i][k]);
+        const QPolygonF pontos = Pontos(d.pt[i], d.count[i]);
+        comprimento += Comprimento(pontos);
         caminho.addPolygon(pontos);
         caminho.closeSubpath();
     }
-    pintor.drawPath(caminho);
+    if (Preparar(*d.dc, comprimento))
+        pintor.drawPath(caminho);
 }
 
 void TDispositivo::Retangulo(const wmfDrawRectangle_t &d)
 {
-    Preparar(*d.dc);
     const QRectF r = Entre(d.TL, d.BR);
+    if (!Preparar(*d.dc, Comprimento(r)))
+        return;
     const double rx = qAbs(Limitada(double(d.width))) / 2,
                  ry = qAbs(Limitada(double(d.height))) / 2;
     if (rx > 0 && ry > 0)
@@ -268,16 +302,16 @@ void TDispositivo::Retangulo(const wmfDrawRectangle_t &d)
 
 void TDispositivo::Elipse(const wmfDrawArc_t &d)
 {
-    Preparar(*d.dc);
-    pintor.drawEllipse(Entre(d.TL, d.BR));
+    const QRectF r = Entre(d.TL, d.BR);
+    if (Preparar(*d.dc, Comprimento(r)))
+        pintor.drawEllipse(r);
 }
 
 /** From one ray to the other, both given as offsets from the centre. */
 void TDispositivo::Arco(const wmfDrawArc_t &d, TArco tipo)
 {
-    Preparar(*d.dc);
     const QRectF r = Entre(d.TL, d.BR);
-    if (r.isEmpty())
+    if (r.isEmpty() || !Preparar(*d.dc, Comprimento(r)))
         return;
     const auto angulo = [&r](const wmfD_Coord &raio) {
         return std::atan2(-Limitada(double(raio.y)) / r.height(),

@@ -16,9 +16,9 @@ namespace ficha
  *
  * Nothing in the file is trusted. The records are checked and written anew before the player sees
  * them, so that it meets no length, object or bitmap that does not add up; a picture of more than
- * MaiorArquivo bytes or MaisRegistros records, or that takes more than SegundosDePintura to draw,
- * is refused. Palettes, regions as objects, flood fills and escapes are passed over; pattern
- * brushes fill with a light grey.
+ * MaiorArquivo bytes or MaisRegistros records, of more lines than any picture holds, or that takes
+ * more than SegundosDePintura to draw, is refused. Palettes, regions as objects, flood fills and
+ * escapes are passed over; pattern brushes fill with a light grey.
  */
 class TMetafile
 {

@@ -79,6 +79,8 @@ constexpr int MaisObjetos = 8192;
 constexpr int MaisSalvos = 64;
 constexpr int MaisExclusoes = 16;
 constexpr int MaisLetras = 2000;
+/** Of one record: it is drawn to its end whatever time that takes. */
+constexpr int MaisPontos = 65'535;
 constexpr int MaiorLadoDeBitmap = 16384;
 constexpr qint64 MaisPixels = 64 * 1024 * 1024;
 constexpr qsizetype CabecalhoDoDib = 40;
@@ -346,6 +348,8 @@ bool TTranscricao::Plano(quint16 funcao, const TParametros &p)
     switch (funcao) {
     case fnSetMapMode:
         metrico = p.S(0) >= MapPrimeiroMetrico && p.S(0) <= MapUltimoMetrico;
+        if (!temExtensao)
+            recuaY = metrico;
         return true;
     case fnSetWindowOrg:
         if (!temExtensao)
@@ -591,9 +595,12 @@ void TTranscricao::Poligonos(const TParametros &p)
     p.Exigir(1 + quantos);
     QByteArray contagens, pontos;
     qsizetype i = 1 + quantos;
-    int bons = 0;
+    int bons = 0, total = 0;
     for (int n = 0; n < quantos; ++n) {
         const int doPoligono = p.U(1 + n);
+        total += doPoligono;
+        if (total > MaisPontos)
+            throw EImagemInvalida(QStringLiteral("o metarquivo tem desenhos demais"));
         p.Exigir(i + qsizetype(doPoligono) * 2);
         if (doPoligono >= 3) {
             ++bons;
