@@ -192,7 +192,7 @@ void TArquivoDeImagem::MedirIcone()
 QImage TArquivoDeImagem::Ler(QSize pixels) const
 {
     pixels = pixels.expandedTo({1, 1}).boundedTo({LadoPedido, LadoPedido});
-    const QImage lida = SobreBranco(Decodificar(pixels));
+    QImage lida = SobreBranco(Decodificar(pixels));
     if (lida.isNull())
         Recusar(Danificada());
     if (lida.size() == pixels)
@@ -226,7 +226,7 @@ QImage TArquivoDeImagem::Decodificar(QSize pixels) const
         const bool menor = pixels.width() < tamanho.width() && pixels.height() < tamanho.height();
         if (tipo == TTipoDeImagem::Jpeg && menor)
             leitor.setScaledSize(deitada ? pixels.transposed() : pixels);
-        const QImage lida = leitor.read();
+        QImage lida = leitor.read();
         if (lida.isNull())
             Recusar(Danificada());
         return lida;

@@ -23,7 +23,7 @@ namespace ficha
 class TMetafile
 {
 public:
-    static constexpr qsizetype MaiorArquivo = 32 * 1024 * 1024;
+    static constexpr qsizetype MaiorArquivo = 32LL * 1024 * 1024;
     static constexpr int MaisRegistros = 200'000;
     static constexpr int SegundosDePintura = 5;
     /** Longest side of TamanhoNatural and of Desenhar, in pixels. */

@@ -82,11 +82,11 @@ constexpr int MaisLetras = 2000;
 /** Of one record: it is drawn to its end whatever time that takes. */
 constexpr int MaisPontos = 65'535;
 constexpr int MaiorLadoDeBitmap = 16384;
-constexpr qint64 MaisPixels = 64 * 1024 * 1024;
+constexpr qint64 MaisPixels = 64LL * 1024 * 1024;
 constexpr qsizetype CabecalhoDoDib = 40;
 constexpr int PontosPorPolegada = 96;
 constexpr int OpcaoComRetangulo = 0x0006;
-constexpr int EstiloOco = 1, EstiloHachura = 2, UltimaHachura = 5;
+constexpr int EstiloHachura = 2, UltimaHachura = 5;
 
 /** Slots of the file's objects that are not one of ours. */
 constexpr int Livre = -1, SemObjeto = -2;
@@ -606,7 +606,7 @@ void TTranscricao::Poligonos(const TParametros &p)
             ++bons;
             PorU16(contagens, quint16(doPoligono));
             pontos.append(p.Bytes(i, qsizetype(doPoligono) * 4));
-            for (int k = 0; k < doPoligono; ++k)
+            for (qsizetype k = 0; k < doPoligono; ++k)
                 Ver(p.S(i + k * 2), p.S(i + k * 2 + 1));
         }
         i += qsizetype(doPoligono) * 2;
