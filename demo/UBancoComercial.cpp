@@ -47,6 +47,7 @@ void ExecutarRoteiro(TSQLConnection &conexao)
 
 constexpr char EsquemaDoGuia[] = "schema-guia.sql";
 constexpr char EsquemaDosClientes[] = "schema-clientes.sql";
+constexpr char EsquemaDoCadastro[] = "schema-cadastro.sql";
 
 constexpr TPasso Passos[] = {
     {"select 1 from rdb$relations where rdb$relation_name = 'CEP_UF'",
@@ -54,6 +55,9 @@ constexpr TPasso Passos[] = {
     {"select first 1 1 from cep_uf", &InserirGuiaDeExemplo},
     {"select 1 from rdb$relations where rdb$relation_name = 'CLIENTES'",
      &ExecutarRoteiro<EsquemaDosClientes>},
+    {"select 1 from rdb$relation_fields where rdb$relation_name = 'PRODUTOS' and "
+     "rdb$field_name = 'CADASTRO'",
+     &ExecutarRoteiro<EsquemaDoCadastro>},
 };
 
 bool Feito(TSQLConnection &conexao, const TPasso &passo)

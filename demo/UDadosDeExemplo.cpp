@@ -2,7 +2,9 @@
 
 #include "demo/UClientesDeExemplo.h"
 #include "platform/core/Documentos.h"
+#include "platform/core/Relogio.h"
 #include "platform/database/TSQLConnection.h"
+#include "platform/support/Datas.h"
 #include "platform/support/Textos.h"
 
 #include <QStringList>
@@ -78,15 +80,18 @@ void InserirProduto(TSQLConnection &conexao, int codigo, int grupo, const QStrin
     // Figures that look like a shop's, the same at every first run.
     const int centavos = 199 + codigo * 7919 % 18000;
     const int estoque = codigo * 37 % 240;
+    // Registered in the course of the year before the first run.
+    const TDateTime cadastro(Hoje().Dias() - codigo * 53 % 365);
     conexao.Executar(
         QStringLiteral("insert into produtos (produtos_cod, descricao, grupos_cod, preco, estoque, "
-                       "unidade, ativo, cod_barras) values (%1, %2, %3, %4.%5, %6, %7, %8, %9)")
+                       "unidade, ativo, cod_barras, cadastro) values (%1, %2, %3, %4)")
             .arg(QString::number(codigo), QuotedStr(descricao), QString::number(grupo),
-                 QString::number(centavos / 100),
-                 QStringLiteral("%1").arg(centavos % 100, 2, 10, QChar(u'0')),
-                 QString::number(estoque), QuotedStr(QString(QChar::fromLatin1(unidade))),
-                 QuotedStr(codigo % 17 == 0 ? QStringLiteral("N") : QStringLiteral("S")),
-                 QuotedStr(CodigoDeBarras(codigo, grupo))));
+                 QStringLiteral("%1.%2, %3, %4, %5, %6, %7")
+                     .arg(QString::number(centavos / 100),
+                          QStringLiteral("%1").arg(centavos % 100, 2, 10, QChar(u'0')),
+                          QString::number(estoque), QuotedStr(QString(QChar::fromLatin1(unidade))),
+                          QuotedStr(codigo % 17 == 0 ? QStringLiteral("N") : QStringLiteral("S")),
+                          QuotedStr(CodigoDeBarras(codigo, grupo)), DataSQLFirebird(cadastro))));
 }
 
 } // namespace

@@ -1,7 +1,11 @@
 #include "demo/UProdutosF.h"
 
 #include "demo/UComboDeGrupos.h"
-#include "platform/toolkit/TRadioGroup.h"
+#include "platform/edits/TNumEditBR.h"
+#include "platform/toolkit/TCheckBox.h"
+#include "platform/toolkit/TComboBox.h"
+
+#include <QLabel>
 
 using namespace ficha;
 
@@ -10,9 +14,82 @@ namespace comercial
 
 FICHA_REGISTRAR(TProdutosF)
 
+namespace
+{
+
+enum TSituacao { Todos, Ativos, Inativos };
+
+} // namespace
+
+/** The list's text, from what the filter panel holds. */
+void TProdutosF::PrepararSQL()
+{
+    QStringList condicoes;
+    QStringList frases;
+    for (const TCriterio &criterio : Criterios()) {
+        condicoes << criterio.Onde;
+        frases << criterio.Frase;
+    }
+    FiltroAtivo = !condicoes.isEmpty();
+    FiltroStatusLabel->setText(FiltroAtivo ? QStringLiteral("Exibindo os produtos ") +
+                                                 frases.join(QStringLiteral(", "))
+                                           : QStringLiteral("Exibindo todos os produtos"));
+    const QString onde =
+        FiltroAtivo ? QStringLiteral("where ") + condicoes.join(QStringLiteral(" and ")) + u' '
+                    : QString();
+    SQLQuery1->SetSQL(
+        QStringLiteral("select p.produtos_cod, p.descricao, p.grupos_cod, g.descricao as grupo, "
+                       "p.preco, p.estoque, p.unidade, p.ativo, p.observacao, p.cod_barras, "
+                       "p.cadastro from produtos p join grupos g on g.grupos_cod = p.grupos_cod ") +
+        onde + QStringLiteral("order by p.descricao"));
+}
+
+std::vector<TProdutosF::TCriterio> TProdutosF::Criterios()
+{
+    std::vector<TCriterio> criterios;
+    const TComboBoxCodBasFr *grupo = FiltroGrupoFr->ComboBoxCodFr;
+    if (FiltroGrupoFr->AtivoCheckBox->isChecked() && grupo->GetValor() != Variant(0)) {
+        criterios.push_back({QStringLiteral("p.grupos_cod=") + grupo->SQLString(),
+                             QStringLiteral("do grupo ") + grupo->ComboBox1->currentText()});
+    }
+    const auto preco = [&criterios](const TNumOpcionalFr &fr, const char *sinal,
+                                    const QString &frase) {
+        const TNumEditBRBasFr *numero = fr.TNumEditBRBasFr1;
+        if (fr.AtivoCheckBox->isChecked())
+            criterios.push_back(
+                {QStringLiteral("p.preco") + QLatin1String(sinal) + numero->SQLString(),
+                 frase + numero->NumEditBR1->text()});
+    };
+    preco(*FiltroPrecoDeFr, ">=", QStringLiteral("a partir de R$ "));
+    preco(*FiltroPrecoAteFr, "<=", QStringLiteral("até R$ "));
+    if (FiltroSituacaoGroup->GetItemIndex() == Ativos)
+        criterios.push_back({QStringLiteral("p.ativo='S'"), QStringLiteral("ativos")});
+    else if (FiltroSituacaoGroup->GetItemIndex() == Inativos)
+        criterios.push_back({QStringLiteral("p.ativo='N'"), QStringLiteral("inativos")});
+    const QString periodo = FiltroCadastroFr->WhereStr(QStringLiteral("p.cadastro"));
+    if (!periodo.isEmpty())
+        criterios.push_back(
+            {periodo, QStringLiteral("cadastro: ") +
+                          FiltroCadastroFr->FaixaString(QStringLiteral("dd/mm/yyyy"))});
+    return criterios;
+}
+
+void TProdutosF::ZerarFiltro()
+{
+    for (TOpcionalBasFr *fr : {static_cast<TOpcionalBasFr *>(FiltroGrupoFr),
+                               static_cast<TOpcionalBasFr *>(FiltroPrecoDeFr),
+                               static_cast<TOpcionalBasFr *>(FiltroPrecoAteFr)})
+        fr->AtivoCheckBox->setChecked(false);
+    FiltroGrupoFr->ComboBoxCodFr->Zerar();
+    FiltroPrecoDeFr->TNumEditBRBasFr1->Zerar();
+    FiltroPrecoAteFr->TNumEditBRBasFr1->Zerar();
+    FiltroSituacaoGroup->SetItemIndex(Todos);
+    FiltroCadastroFr->Zerar();
+}
+
 void TProdutosF::PegarComponentes()
 {
-    TTabLinearBasF::PegarComponentes();
+    TTabLinFiltroBasF::PegarComponentes();
     Pegar(this, CodFr, "CodFr");
     Pegar(this, DescrFr, "DescrFr");
     Pegar(this, CodBarrasFr, "CodBarrasFr");
@@ -22,16 +99,18 @@ void TProdutosF::PegarComponentes()
     Pegar(this, UnidadeFr, "UnidadeFr");
     Pegar(this, AtivoFr, "AtivoFr");
     Pegar(this, ObservacaoFr, "ObservacaoFr");
+    Pegar(this, FiltroGrupoFr, "FiltroGrupoFr");
+    Pegar(this, FiltroPrecoDeFr, "FiltroPrecoDeFr");
+    Pegar(this, FiltroPrecoAteFr, "FiltroPrecoAteFr");
+    Pegar(this, FiltroSituacaoGroup, "FiltroSituacaoGroup");
+    Pegar(this, FiltroCadastroFr, "FiltroCadastroFr");
 }
 
 void TProdutosF::FormCreate(QObject *sender)
 {
-    SQLQuery1->SetSQL(QStringLiteral(
-        "select p.produtos_cod, p.descricao, p.grupos_cod, g.descricao as grupo, p.preco, "
-        "p.estoque, p.unidade, p.ativo, p.observacao, p.cod_barras from produtos p "
-        "join grupos g on g.grupos_cod = p.grupos_cod order by p.descricao"));
-    TTabLinearBasF::FormCreate(sender);
+    TTabLinFiltroBasF::FormCreate(sender);
     OferecerGrupos(GrupoFr, ActionList1);
+    FiltroGrupoFr->ComboBoxCodFr->SetSQLText(GrupoFr->GetSQLText());
 }
 
 void TProdutosF::Rotular()
@@ -42,6 +121,7 @@ void TProdutosF::Rotular()
         {"preco", u"Preço"},           {"estoque", u"Estoque"},
         {"unidade", u"Unidade"},       {"ativo", u"Ativo"},
         {"observacao", u"Observação"}, {"cod_barras", u"Código de barras"},
+        {"cadastro", u"Cadastro"},
     };
     for (const auto &[campo, rotulo] : rotulos)
         SQLQuery1->FieldByName(campo)->SetDisplayLabel(QString::fromUtf16(rotulo));
@@ -69,6 +149,7 @@ void TProdutosF::PrepararTab()
         unidade->ListaChar->Add(unidades[i], i + 33);
     Tab->PegarCampo(q->FieldByName("ativo"), 44, AtivoFr);
     Tab->PegarCampo(q->FieldByName("cod_barras"), 100, CodBarrasFr);
+    Tab->PegarCampo(q->FieldByName("cadastro"), 70);
     Tab->PegarCampo(q->FieldByName("observacao"), 0, ObservacaoFr)->Visivel = false;
 }
 

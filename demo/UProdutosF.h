@@ -1,6 +1,9 @@
 #pragma once
 
-#include "forms/UTabLinearBasF.h"
+#include "dates/UComboCodOpcionalFr.h"
+#include "dates/UDatasBasFr.h"
+#include "dates/UNumOpcionalFr.h"
+#include "forms/UTabLinFiltroBasF.h"
 #include "input/UBarCodBasFr.h"
 #include "input/UCheckBoxBasFr.h"
 #include "input/UComboBoxCodBasFr.h"
@@ -9,19 +12,27 @@
 #include "input/UNumEditBRBasFr.h"
 #include "input/UNumEditBRCodBasFr.h"
 #include "input/URadioGroupCharBasFr.h"
+#include "platform/toolkit/TRadioGroup.h"
 
 namespace comercial
 {
 
-/** Keeps the products. The button beside the group opens the groups' screen and comes back with
- * the code chosen or inserted there. */
-class TProdutosF : public ficha::TTabLinearBasF
+/**
+ * Keeps the products. The button beside the group opens the groups' screen and comes back with the
+ * code chosen or inserted there.
+ *
+ * The filter panel chooses by group, by price, by whether they can be sold and by the days on which
+ * they were registered; the line above the list says in words what it shows.
+ */
+class TProdutosF : public ficha::TTabLinFiltroBasF
 {
     Q_OBJECT
 
 public:
-    using TTabLinearBasF::TTabLinearBasF;
+    using TTabLinFiltroBasF::TTabLinFiltroBasF;
     QString NomeJanela() const override { return QStringLiteral("Produtos"); }
+    void PrepararSQL() override;
+    void ZerarFiltro() override;
 
 protected:
     void PegarComponentes() override;
@@ -31,7 +42,19 @@ protected:
     void AntesAlterar() override;
 
 private:
+    /** One condition of the filter and the words for it. */
+    struct TCriterio {
+        QString Onde;
+        QString Frase;
+    };
+    std::vector<TCriterio> Criterios();
     void Rotular();
+
+    ficha::TComboCodOpcionalFr *FiltroGrupoFr = nullptr;
+    ficha::TNumOpcionalFr *FiltroPrecoDeFr = nullptr;
+    ficha::TNumOpcionalFr *FiltroPrecoAteFr = nullptr;
+    ficha::TRadioGroup *FiltroSituacaoGroup = nullptr;
+    ficha::TDatasBasFr *FiltroCadastroFr = nullptr;
 
     ficha::TNumEditBRCodBasFr *CodFr = nullptr;
     ficha::TDescrReduzLabeledEditTextoBasFr *DescrFr = nullptr;
