@@ -1,17 +1,22 @@
 #include "demo/UPasseio.h"
 
+#include "demo/UProdutosF.h"
 #include "input/UBarCodBasFr.h"
 #include "input/UComboBoxCodBasFr.h"
 #include "platform/core/Erros.h"
 #include "platform/database/ConexD.h"
+#include "platform/edits/TNumEditBR.h"
 #include "platform/toolkit/Ocioso.h"
 #include "platform/toolkit/TBitBtn.h"
+#include "platform/toolkit/TCheckBox.h"
 #include "platform/toolkit/TComboBox.h"
 #include "platform/toolkit/TForm.h"
 #include "platform/toolkit/TLabeledEdit.h"
+#include "platform/toolkit/TPageControl.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QMdiSubWindow>
 #include <QProcess>
 #include <QScrollArea>
@@ -65,6 +70,7 @@ void TPasseio::Executar()
     Produto();
     GrupoPeloCombo();
     CodigoDeBarras();
+    FiltroDaLista();
     PerguntaAoFechar();
     Clientes();
     Mostruario();
@@ -221,6 +227,30 @@ void TPasseio::CodigoDeBarras()
                QStringLiteral("Jardim 1234.50 7891000315507"),
            "inserir um produto no grupo novo");
     Foto(QStringLiteral("produtos-inserido"));
+}
+
+/** Enter applies the filter; starting an alteration releases it and stays on the record. */
+void TPasseio::FiltroDaLista()
+{
+    auto *tela = qobject_cast<TProdutosF *>(janela.FilhoAtivo());
+    auto *preco = Achar<TNumOpcionalFr>("FiltroPrecoDeFr");
+    tela->PageControl1->MudarComoUsuario(0);
+    Assentar();
+    Marcar(preco->AtivoCheckBox);
+    DigitarEm(preco->TNumEditBRBasFr1->NumEditBR1, QStringLiteral("1000"));
+    Tecla(Qt::Key_Return);
+    Exigir(tela->SQLQuery1->RecordCount() == 1, "filtrar a lista pelo preço");
+    Foto(QStringLiteral("produtos-filtro-aplicado"));
+    Clicar(tela->FiltroImage);
+    Foto(QStringLiteral("produtos-filtro-fechado"));
+    Tecla(Qt::Key_A, Qt::ControlModifier);
+    Exigir(!tela->FiltroAtivo && tela->SQLQuery1->RecordCount() > 1, "liberar o filtro ao alterar");
+    Exigir(Achar<TDescrReduzLabeledEditTextoBasFr>("DescrFr")->AsString().startsWith(
+               QStringLiteral("Vaso")),
+           "alterar o registro que a lista filtrada mostrava");
+    Tecla(Qt::Key_Escape);
+    tela->PageControl1->MudarComoUsuario(0);
+    Clicar(tela->FiltroImage);
 }
 
 void TPasseio::PerguntaAoFechar()

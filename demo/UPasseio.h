@@ -46,6 +46,7 @@ private:
     void Produto();
     void GrupoPeloCombo();
     void CodigoDeBarras();
+    void FiltroDaLista();
     void PerguntaAoFechar();
     void Clientes();
     void ClienteNovo();
