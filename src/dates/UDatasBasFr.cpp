@@ -196,9 +196,8 @@ void TDatasBasFr::MaskEdit2Exit(QObject *)
 
 TDateTime TDatasBasFr::Ler(TMaskEdit *edit)
 {
-    if (ControleAtivo(edit) != edit)
-        TrateTextPeloSeculo(edit);
-    return StrLimpaToDate(DigitosPeloSeculo(edit->GetText(), SeculoBase, false));
+    TrateTextPeloSeculo(edit);
+    return StrLimpaToDate(edit->GetText());
 }
 
 void TDatasBasFr::Posicionar(TDatasSelectF &dialogo)

@@ -17,9 +17,9 @@ class TMaskEdit;
  * its edit as it was typed, and a caller that must refuse it asks StrLimpaIsValidDate. Nothing is
  * refused here, not even a start after the end, which matches nothing.
  *
- * Leaving an edit and reading an end write the year in four digits into the edit. While the user is
- * in the edit a reading only computes with it: whoever is about to type 01/02/2024 has 01/02/20 in
- * between.
+ * Leaving an edit and reading an end write the year in four digits into the edit, also while the
+ * user is in it: what is read is what is shown. A screen therefore reads when it needs the range,
+ * not on every key: whoever is about to type 01/02/2024 has 01/02/20 in between.
  */
 class TDatasBasFr : public TBasFr
 {

@@ -64,4 +64,18 @@ bool TDocEditBRBasFr::Focused() const
     return hasFocus() || Edit()->hasFocus();
 }
 
+void TDocEditBRBasFr::FrameExit(QObject *sender)
+{
+    const QPointer<TDocEditBRBasFr> vivo(this);
+    const int cursor = Edit()->cursorPosition();
+    TDBControlBasFr::FrameExit(sender);
+    if (!vivo || window()->focusWidget() != Edit())
+        return;
+    // Said in every case: whether the edit selects by itself hangs on there having been a box.
+    if (Edit()->GetText().size() < Edit()->GetMaxLength())
+        Edit()->setCursorPosition(cursor);
+    else
+        Edit()->selectAll();
+}
+
 } // namespace ficha

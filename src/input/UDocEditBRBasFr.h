@@ -14,6 +14,9 @@ class TDocEditBR;
  *
  * The user's own edit (typing, pasting, dropping, cutting), never the program's, starts an
  * alteration.
+ *
+ * A refused value keeps the focus. One that is not complete keeps the caret too, so that whoever
+ * goes on typing completes it; a complete one is selected, to be typed over.
  */
 class TDocEditBRBasFr : public TDBControlBasFr
 {
@@ -52,6 +55,8 @@ protected:
     /** For descendants: their edit's change and enter handlers. */
     virtual void EditMudou() = 0;
     virtual void EditEntrou() = 0;
+
+    void FrameExit(QObject *sender) override;
 
 private:
     TPedidoDeEdicao pedido{this};

@@ -22,6 +22,8 @@ TEST(Seculo, SixDigitsGetTheirCentury)
     EXPECT_EQ(Digitos("010200", 1900, true), QStringLiteral("01022000"));
     EXPECT_EQ(Digitos("010200", 1900, false), QStringLiteral("01021900"));
     EXPECT_EQ(Digitos("010205", 1900, false), QStringLiteral("01021905"));
+    EXPECT_EQ(Digitos("010205", 100, false), QStringLiteral("01020105")) << "a base of its own";
+    EXPECT_EQ(Digitos("010299", 99, false), QStringLiteral("01022099")) << "a pair of digits";
 }
 
 TEST(Seculo, EightDigitsArePaddedAndOtherLengthsStay)

@@ -192,8 +192,10 @@ TEST_F(TDTPBasFrTest, LoadingAnnouncesNothing)
 TEST_F(TDTPBasFrTest, EnteringHandsTheFocusOnToThePicker)
 {
     Montar();
+    fr->atualizacoes = 0;
     fr->setFocus();
     EXPECT_EQ(Foco(), data);
+    EXPECT_EQ(fr->atualizacoes, 1) << "entering refreshes";
     antes->setFocus();
     fr->SetFocus();
     EXPECT_EQ(Foco(), data);

@@ -138,6 +138,25 @@ TEST_F(TDataBasFrTest, AnEmptyEditIsValidOnlyWhereItIsAccepted)
     EXPECT_FALSE(fr->IsValidDate()) << "what is typed must still be a date";
 }
 
+TEST_F(TDataBasFrTest, ValidatingTreatsTheYearFirst)
+{
+    Montar();
+    fr->SeculoBase = 1800;
+    Texto(QStringLiteral("290200"));
+    EXPECT_FALSE(fr->IsValidDate()) << "1900 had no such day, 2000 had";
+    EXPECT_EQ(fr->MaskEdit1->GetText(), QStringLiteral("29021900"));
+}
+
+TEST_F(TDataBasFrTest, AReadingThatChangesNothingLeavesTheCaret)
+{
+    Montar();
+    fr->SetAsDate(TDateTime::DeData(1, 2, 2024));
+    fr->MaskEdit1->setFocus();
+    fr->MaskEdit1->setCursorPosition(3);
+    EXPECT_TRUE(fr->IsValidDate());
+    EXPECT_EQ(fr->MaskEdit1->cursorPosition(), 3);
+}
+
 TEST_F(TDataBasFrTest, ReadingTheDateTreatsTheYearFirst)
 {
     Montar();
@@ -188,6 +207,8 @@ TEST_F(TDataBasFrTest, WeekdaysAgeAndMonths)
     EXPECT_EQ(fr->YearsBetween(), 40);
     fr->SetAsDate(TDateTime::DeData(21, 11, 1986));
     EXPECT_EQ(fr->YearsBetween(), 39);
+    fr->SetAsDate(TDateTime::DeData(20, 11, 2027));
+    EXPECT_EQ(fr->YearsBetween(), 0) << "from this morning on it is not yet a year";
     fr->SetAsDate(TDateTime::DeData(31, 1, 2024));
     fr->AvancaMes(1);
     EXPECT_EQ(fr->GetAsDate(), TDateTime::DeData(29, 2, 2024));
@@ -220,6 +241,8 @@ TEST_F(TDataBasFrTest, TheCalendarStartsOnTheDateAndBringsTheChosenOneBack)
     });
     EXPECT_EQ(fr->MaskEdit1->GetText(), QStringLiteral("31122025"));
     EXPECT_EQ(tela.focusWidget(), fr->MaskEdit1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(tela.findChildren<TDataSelectF *>().isEmpty()) << "the dialog is gone";
 }
 
 TEST_F(TDataBasFrTest, ACancelledCalendarLeavesTheText)

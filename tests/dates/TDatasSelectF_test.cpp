@@ -319,6 +319,8 @@ TEST_F(TDatasSelectFTest, SevenDaysAreTodayAndTheSixBefore)
 {
     EXPECT_EQ(Depois(diag->Dias7Act), QStringLiteral("04/03/2024 10/03/2024"));
     EXPECT_EQ(Resumo(), QStringLiteral("De 04/03/2024 até 10/03/2024 (7 dias)"));
+    EXPECT_EQ(Depois(diag->Dias1Act), QStringLiteral("10/03/2024 10/03/2024"));
+    EXPECT_EQ(Resumo(), QStringLiteral("10/03/2024")) << "no radio button has turned";
 }
 
 TEST_F(TDatasSelectFTest, FourWeeksAreOneCalendarMonthBackPlusOneDay)

@@ -159,6 +159,18 @@ TEST_F(TOpcionalBasFrTest, AScreensOwnArrangementIsKept)
     EXPECT_EQ(naBase->geometry(), QRect(0, 290 - 208, 300, 208));
 }
 
+TEST_F(TOpcionalBasFrTest, AFrameThatWasPlacedElsewhereStaysThereWhenItIsShownAgain)
+{
+    Montar();
+    ASSERT_EQ(fr->pos(), QPoint(0, 0));
+    Alinhar(fr, alNone);
+    fr->hide();
+    fr->move(20, 60);
+    fr->show();
+    Girar();
+    EXPECT_EQ(fr->pos(), QPoint(20, 60));
+}
+
 TEST_F(TOpcionalBasFrTest, AClickOnTheGroundSwitchesAutoSizeOn)
 {
     Montar();
@@ -180,7 +192,7 @@ TEST_F(TOpcionalBasFrTest, TheWaitPanelDoesNotCount)
     Montar();
     fr->AguardePanel->resize(220, 500);
     fr->AguardeExibir();
-    fr->Atualizar();
+    fr->SetAutoSize(true);
     EXPECT_EQ(fr->height(), 208);
     fr->AguardeEsconder();
 }

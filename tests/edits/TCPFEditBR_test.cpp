@@ -342,6 +342,36 @@ TEST_F(CPFEdit, AutoExitLeavesAtTheLastDigit)
     // Entered from the program, all is selected: the next one is typed over it.
     edit->setFocus();
     EXPECT_EQ(edit->selectedText(), QStringLiteral("529.982.247-25"));
+    edit->end(false);
+    Teclar(QStringLiteral("x"));
+    EXPECT_TRUE(edit->hasFocus()) << "nothing was typed this time";
+    ColarTexto(edit, QStringLiteral("52998224725"));
+    EXPECT_TRUE(edit->hasFocus());
+}
+
+TEST_F(CPFEdit, AHandlerThatSendsTheFocusElsewhereHasTheLastWord)
+{
+    auto *terceiro = new QLineEdit(&janela);
+    terceiro->move(220, 20);
+    edit->SetAutoExit(true);
+    janela.Abrir();
+    edit->setFocus();
+    QObject::connect(edit, &QLineEdit::returnPressed, terceiro, [=] { terceiro->setFocus(); });
+    QTest::keyClick(edit, Qt::Key_Return);
+    EXPECT_TRUE(terceiro->hasFocus());
+    edit->setFocus();
+    Teclar(QStringLiteral("5299822472"));
+    QObject::connect(edit, &QLineEdit::textEdited, terceiro, [=] { terceiro->setFocus(); });
+    Teclar(QStringLiteral("5"));
+    EXPECT_TRUE(terceiro->hasFocus());
+}
+
+TEST_F(CPFEdit, APastedPartDoesNotTypeOverACompleteNumber)
+{
+    Por(QStringLiteral("52998224725"), 0);
+    ColarTexto(edit, QStringLiteral("123"));
+    EXPECT_EQ(edit->GetText(), QStringLiteral("529.982.247-25"));
+    EXPECT_EQ(avisos.textos.size(), 1);
 }
 
 TEST_F(CPFEdit, AutoExitIsNotRunInTheMiddleByARefusedKeyNorByAPaste)

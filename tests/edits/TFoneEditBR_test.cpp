@@ -189,6 +189,9 @@ TEST_F(Fone, AutoExitLeavesAFixedLineAtEightAndAMobileAtNine)
     fone->SetAutoExit(true);
     janela.Abrir();
     fone->setFocus();
+    Teclar(QStringLiteral("12345678"));
+    EXPECT_TRUE(fone->hasFocus()) << "no fixed line begins so";
+    fone->clear();
     Teclar(QStringLiteral("3234567"));
     EXPECT_TRUE(fone->hasFocus());
     Teclar(QStringLiteral("8"));

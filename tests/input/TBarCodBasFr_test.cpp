@@ -55,7 +55,7 @@ TEST_F(TBarCodBasFrTest, ALetterDoesNothingAndBackspaceWorks)
 {
     Montar();
     fr->SetFocus();
-    Digitar(edit, QStringLiteral("7x8 9-Ç.1"));
+    Digitar(edit, QStringLiteral("/7x:8 9-Ç.1"));
     Compor(edit, QStringLiteral("ã"));
     EXPECT_EQ(edit->text(), QStringLiteral("7891"));
     Compor(edit, QStringLiteral("0a0"));

@@ -12,16 +12,37 @@ namespace
 const QString Recusa = QStringLiteral("CNPJ Inválido\r\nDigite o valor correto ou clique em "
                                       "Cancelar.");
 
+class TContadoFr : public TCNPJEditBRBasFr
+{
+public:
+    using TCNPJEditBRBasFr::TCNPJEditBRBasFr;
+    void Atualizar() override
+    {
+        TCNPJEditBRBasFr::Atualizar();
+        ++atualizacoes;
+    }
+    int atualizacoes = 0;
+    int entradas = 0;
+
+protected:
+    void FrameEnter(QObject *sender) override
+    {
+        EXPECT_EQ(sender, CNPJEditBR1);
+        ++entradas;
+        TCNPJEditBRBasFr::FrameEnter(sender);
+    }
+};
+
 class TCNPJEditBRBasFrTest : public TEntradaTest
 {
 protected:
     void Montar()
     {
-        fr = Mostrado<TCNPJEditBRBasFr>();
+        fr = Mostrado<TContadoFr>();
         edit = fr->CNPJEditBR1;
     }
 
-    TCNPJEditBRBasFr *fr = nullptr;
+    TContadoFr *fr = nullptr;
     TCNPJEditBR *edit = nullptr;
 };
 
@@ -118,6 +139,28 @@ TEST_F(TCNPJEditBRBasFrTest, TheUsersEditStartsAnAlterationTheProgramsDoesNot)
     Teclar(edit, u'b');
     EXPECT_EQ(tela.pedidos, 1);
     EXPECT_EQ(fr->AsString(), QStringLiteral("B"));
+}
+
+TEST_F(TCNPJEditBRBasFrTest, AChangeRefreshesOnceAndEnteringRunsTheHandler)
+{
+    Montar();
+    Teclar(antes, Qt::Key_Tab);
+    EXPECT_EQ(Foco(), edit);
+    EXPECT_EQ(fr->entradas, 1);
+    fr->atualizacoes = 0;
+    Teclar(edit, u'1');
+    EXPECT_EQ(fr->atualizacoes, 1);
+}
+
+TEST_F(TCNPJEditBRBasFrTest, AValidOneSwitchesThePhraseOff)
+{
+    Montar();
+    fr->SetValor(QStringLiteral("12ABC345000100"));
+    EXPECT_FALSE(fr->ValorAceitavel());
+    EXPECT_EQ(fr->FrasesLigadas(), QStringLiteral("CNPJ Inválido"));
+    fr->SetValor(QStringLiteral("12ABC345000188"));
+    EXPECT_TRUE(fr->ValorAceitavel());
+    EXPECT_EQ(fr->FrasesLigadas(), QString());
 }
 
 } // namespace

@@ -25,8 +25,14 @@ public:
     int atualizacoes = 0;
     int mudancas = 0;
     int entradas = 0;
+    int entradasDoFrame = 0;
 
 protected:
+    void FrameEnter(QObject *sender) override
+    {
+        ++entradasDoFrame;
+        TCPFEditBRBasFr::FrameEnter(sender);
+    }
     void CPFEditBR1Change(QObject *sender) override
     {
         EXPECT_EQ(sender, CPFEditBR1);
@@ -126,6 +132,8 @@ TEST_F(TCPFEditBRBasFrTest, AnInvalidOneIsRefusedWithTheMessageAndKeepsTheFocus)
     QCoreApplication::processEvents();
     EXPECT_EQ(avisos.size(), 3);
     EXPECT_EQ(Foco(), edit);
+    Digitar(edit, QStringLiteral("5"));
+    EXPECT_EQ(edit->GetText(), QStringLiteral("529.982.247-35")) << "typed on where it was left";
 }
 
 TEST_F(TCPFEditBRBasFrTest, TypingTheLastDigitLeavesUnlessTheCheckDigitsAreWrong)
@@ -288,6 +296,7 @@ TEST_F(TCPFEditBRBasFrTest, AChangeRefreshesOnceAndEnteringRunsTheHandler)
     Teclar(antes, Qt::Key_Tab);
     EXPECT_EQ(Foco(), edit);
     EXPECT_EQ(fr->entradas, 1);
+    EXPECT_EQ(fr->entradasDoFrame, 1);
     fr->atualizacoes = 0;
     Teclar(edit, u'1');
     EXPECT_EQ(fr->mudancas, 1);
@@ -305,7 +314,16 @@ TEST_F(TCPFEditBRBasFrTest, FocusGoesToTheEditWhenItCanBeSeen)
     antes->setFocus();
     edit->hide();
     fr->SetFocus();
+    edit->show();
+    EXPECT_NE(Foco(), edit) << "nor when it is shown later";
+    fr->hide();
+    fr->SetFocus();
+    fr->show();
     EXPECT_NE(Foco(), edit);
+    fr->setFocusPolicy(Qt::ClickFocus);
+    fr->setFocus();
+    EXPECT_EQ(Foco(), fr);
+    EXPECT_TRUE(fr->Focused()) << "the frame itself counts, too";
 }
 
 TEST_F(TCPFEditBRBasFrTest, ItsColumnGetsTheBareNumberBackAndForth)

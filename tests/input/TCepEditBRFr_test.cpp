@@ -25,8 +25,14 @@ public:
     }
     int atualizacoes = 0;
     int entradas = 0;
+    int entradasDoFrame = 0;
 
 protected:
+    void FrameEnter(QObject *sender) override
+    {
+        ++entradasDoFrame;
+        TCepEditBRFr::FrameEnter(sender);
+    }
     void CepEditBR1Enter(QObject *sender) override
     {
         EXPECT_EQ(sender, CepEditBR1);
@@ -88,9 +94,8 @@ TEST_F(TCepEditBRFrTest, TheOptionalOneTakesAWholeCEPOrNothingAndRefusesAPartInS
     EXPECT_EQ(fr->FrasesLigadas(), QString());
     Teclar(edit, Qt::Key_Tab);
     EXPECT_EQ(Foco(), edit) << "the focus stays";
-    edit->selectAll();
-    Digitar(edit, QStringLiteral("01045001"));
-    EXPECT_EQ(edit->GetText(), QStringLiteral("01045-001"));
+    Digitar(edit, QStringLiteral("001"));
+    EXPECT_EQ(edit->GetText(), QStringLiteral("01045-001")) << "and what is there is completed";
     EXPECT_EQ(Foco(), depois) << "the last digit leaves";
     EXPECT_TRUE(fr->ValorAceitavel());
     fr->Zerar();
@@ -119,6 +124,16 @@ TEST_F(TCepEditBRFrTest, TheRequiredOneRefusesAPartAndNothingWithTheMessage)
     EXPECT_EQ(Foco(), depois);
     EXPECT_EQ(avisos.size(), 2);
     EXPECT_EQ(fr->FrasesLigadas(), QString());
+}
+
+TEST_F(TCepEditBRFrTest, TheRequiredPhraseComesWithTheRefusalOfAnUntouchedOne)
+{
+    Montar();
+    fr->AceitaVazio = false;
+    EXPECT_EQ(fr->FrasesLigadas(), QString());
+    EXPECT_FALSE(fr->ValorAceitavel());
+    EXPECT_EQ(fr->FrasesLigadas(), QStringLiteral("Obrigatório"));
+    EXPECT_EQ(avisos, QStringList{Obrigatorio});
 }
 
 TEST_F(TCepEditBRFrTest, ABoundFramesMessageNamesTheColumn)
@@ -231,6 +246,7 @@ TEST_F(TCepEditBRFrTest, EnteringRunsTheHandlerAndFocusGoesToTheEdit)
     Teclar(antes, Qt::Key_Tab);
     EXPECT_EQ(Foco(), edit);
     EXPECT_EQ(fr->entradas, 1);
+    EXPECT_EQ(fr->entradasDoFrame, 1);
     antes->setFocus();
     fr->SetFocus();
     EXPECT_EQ(Foco(), edit);

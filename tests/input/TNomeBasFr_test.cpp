@@ -81,6 +81,10 @@ TEST_F(TNomeBasFrTest, AFilledShortNameStays)
     menor->setText(QStringLiteral("   "));
     DigitarNome(QStringLiteral("Ana"));
     EXPECT_EQ(menor->text(), QStringLiteral("Ana")) << "blanks are an empty short name";
+    nome->setFocus();
+    menor->setText(QStringLiteral("   "));
+    DigitarNome(QStringLiteral("Bia"));
+    EXPECT_EQ(menor->text(), QStringLiteral("Bia")) << "also those that nobody has left yet";
 }
 
 TEST_F(TNomeBasFrTest, ALongerNameIsCopiedWhole)

@@ -8,6 +8,7 @@
 
 #include <QLineEdit>
 #include <QMenu>
+#include <QScreen>
 #include <QTableView>
 #include <QWheelEvent>
 
@@ -427,6 +428,52 @@ TEST_F(DateTimePicker, ReadOnlyKeepsItsDate)
     ColarTexto(data, QStringLiteral("10/03/2024"));
     EXPECT_FALSE(data->DroppedDown());
     EXPECT_EQ(Texto(), QStringLiteral("15/02/2026"));
+}
+
+TEST_F(DateTimePicker, NoughtTwiceIsNoDay)
+{
+    Abrir();
+    Digitar("00");
+    EXPECT_EQ(Texto(), QStringLiteral("0_/02/2026"));
+    Digitar("7");
+    EXPECT_EQ(Data(), QStringLiteral("07/02/2026"));
+}
+
+TEST_F(DateTimePicker, APastedDateEndsTheTyping)
+{
+    Abrir();
+    Digitar("1");
+    ColarTexto(data, QStringLiteral("10/03/2024"));
+    EXPECT_EQ(Texto(), QStringLiteral("10/03/2024"));
+    Digitar("05");
+    EXPECT_EQ(Data(), QStringLiteral("05/03/2024"));
+}
+
+TEST_F(DateTimePicker, ComingBackFromAnotherWindowGoesOnInTheSamePart)
+{
+    Abrir();
+    QTest::keyClick(data, Qt::Key_End);
+    ASSERT_EQ(data->currentSection(), QDateTimeEdit::YearSection);
+    QWidget outra;
+    outra.show();
+    outra.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&outra));
+    janela.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&janela));
+    EXPECT_TRUE(data->hasFocus());
+    EXPECT_EQ(data->currentSection(), QDateTimeEdit::YearSection);
+}
+
+TEST_F(DateTimePicker, TheCalendarOpensAboveWhereTheScreenEnds)
+{
+    Abrir();
+    const QRect tela = janela.screen()->availableGeometry();
+    janela.move(tela.left() + 20, tela.bottom() - 80);
+    QTest::keyClick(data, Qt::Key_F4);
+    ASSERT_TRUE(Calendario());
+    EXPECT_LT(Calendario()->y(), janela.y());
+    EXPECT_LE(Calendario()->geometry().bottom(), data->mapToGlobal(data->rect().center()).y());
+    QTest::keyClick(Calendario(), Qt::Key_Escape);
 }
 
 TEST_F(DateTimePicker, DigitsOfAnInputMethodAreTyped)

@@ -3,6 +3,7 @@
 #include "platform/core/Relogio.h"
 #include "support/Widgets.h"
 
+#include <QLabel>
 #include <QMenu>
 #include <QSpinBox>
 #include <QTableView>
@@ -227,7 +228,8 @@ TEST_F(MonthCalendar, TwoClicksOnTheSelectedDayAreAnnouncedOneIsNot)
     EXPECT_EQ(cal->GetDate().TextoData(), QStringLiteral("25/02/2024"));
     EXPECT_EQ(duplos, 1) << "the first click turned the page";
     ClicarDuas(0, 0);
-    ClicarDuas(3, 3, Qt::RightButton);
+    cal->SetDate(TDateTime::DeData(10, 3, 2024));
+    ClicarDuas(3, 0, Qt::RightButton);
     EXPECT_EQ(duplos, 1);
 }
 
@@ -245,6 +247,21 @@ TEST_F(MonthCalendar, DigitsAreNoCommand)
     QTest::keyClicks(grade, QStringLiteral("25"));
     EXPECT_EQ(cal->GetDate().TextoData(), QStringLiteral("10/03/2024"));
     EXPECT_EQ(QApplication::focusWidget(), grade);
+    EXPECT_TRUE(cal->findChildren<QLabel *>().isEmpty()) << "no edit of the toolkit's opens";
+}
+
+TEST_F(MonthCalendar, TheSelectedDayIsMarkedSoftlyWithoutTheFocus)
+{
+    cal->SetDate(TDateTime::DeData(20, 3, 2024));
+    const auto fundo = [&] {
+        const QRect r = grade->visualRect(grade->currentIndex());
+        return grade->viewport()->grab().toImage().pixelColor(r.topLeft() + QPoint(2, 2));
+    };
+    ASSERT_TRUE(grade->hasFocus());
+    EXPECT_EQ(fundo(), cal->palette().color(QPalette::Highlight));
+    grade->clearFocus();
+    EXPECT_NE(fundo(), cal->palette().color(QPalette::Highlight));
+    EXPECT_NE(fundo(), cal->palette().color(QPalette::Base)) << "but marked";
 }
 
 TEST_F(MonthCalendar, AHandlerMayDestroyTheCalendarOrFail)
