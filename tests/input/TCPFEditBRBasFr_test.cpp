@@ -148,6 +148,7 @@ TEST_F(TCPFEditBRBasFrTest, TypingTheLastDigitLeavesUnlessTheCheckDigitsAreWrong
     EXPECT_EQ(avisos.size(), 1);
     EXPECT_EQ(Foco(), depois);
     EXPECT_EQ(fr->FrasesLigadas(), QString());
+    EXPECT_EQ(edit->selectedText(), QString()) << "nothing stays marked behind";
     EXPECT_EQ(fr->GetValor(), Variant(QStringLiteral("52998224725")));
 }
 
