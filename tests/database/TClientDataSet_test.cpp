@@ -522,6 +522,66 @@ TEST_F(TClientDataSetTest, LocateFindsByOneOrMoreFields)
     EXPECT_THROW(cds.Locate(QStringLiteral("nada"), {1}), EDatabaseError);
 }
 
+TEST_F(TClientDataSetTest, LocateFindsPartsOfTextsAndOfNumbersInTheOrderShown)
+{
+    Por(L("Maçã amaçar mação MAÇANETA лес"));
+    constexpr unsigned Inicio = loCaseInsensitive | loPartialKey;
+    constexpr unsigned Meio = loCaseInsensitive | loContains;
+    const auto acha = [&](const char *campo, const char *texto, unsigned opcoes) {
+        return cds.Locate(QString::fromLatin1(campo), {QString::fromUtf8(texto)}, opcoes)
+                   ? cds.RecNo()
+                   : 0;
+    };
+    EXPECT_EQ(acha("nome", "MACA", Inicio), 1);
+    EXPECT_EQ(acha("nome", "macan", Inicio), 4);
+    EXPECT_EQ(acha("nome", "amac", Meio), 2);
+    EXPECT_EQ(acha("nome", "ÇÃO", Meio), 3);
+    EXPECT_EQ(acha("nome", "çao", loCaseInsensitive | loPartialKey), 0);
+    EXPECT_EQ(acha("nome", "acao", Meio), 3);
+    EXPECT_EQ(acha("nome", "ЛЕС", Inicio), 5) << "letters beyond Latin-1";
+    EXPECT_EQ(acha("nome", "maca", loPartialKey), 0) << "letter by letter without the option";
+    EXPECT_EQ(acha("nome", "açar", loContains), 2);
+    EXPECT_EQ(acha("nome", "MAÇANETAS", Inicio), 0);
+    EXPECT_EQ(acha("quant", "4", loPartialKey), 4);
+    for (int i = 0; i < 20; ++i)
+        cds.AppendRecord({Null, 100 + i});
+    cds.AppendRecord({Null, -100});
+    EXPECT_EQ(acha("quant", "10", loPartialKey), 6);
+    EXPECT_EQ(acha("quant", "119", loPartialKey), 25);
+    EXPECT_EQ(acha("quant", "-1", loPartialKey), 26);
+    EXPECT_EQ(acha("quant", "19", loContains), 25);
+    EXPECT_EQ(acha("quant", "00119", loNenhuma), 25) << "whole numbers compare as numbers";
+}
+
+TEST_F(TClientDataSetTest, TheTypedFilterShowsRowsWithTheTextInOneOfTheFields)
+{
+    Por(L("Maçã amaçar mação Pera"));
+    cds.AddIndex(QStringLiteral("a"), QStringLiteral("nome"));
+    cds.SetIndexName(QStringLiteral("a"));
+    const auto filtrar = [&](const char *campos, const char *texto, unsigned opcoes) {
+        cds.SetFilterText(QString::fromLatin1(campos), QString::fromUtf8(texto), opcoes);
+        return Nomes();
+    };
+    EXPECT_EQ(filtrar("nome", "zzz", loContains).size(), 4) << "not switched on yet";
+    cds.SetFiltered(true);
+    EXPECT_EQ(Nomes(), QStringList());
+    EXPECT_EQ(filtrar("nome", "MACA", loCaseInsensitive | loContains), L("amaçar Maçã mação"));
+    EXPECT_EQ(filtrar("nome", "maca", loCaseInsensitive | loPartialKey), L("Maçã mação"));
+    EXPECT_EQ(filtrar("nome", "maca", loCaseInsensitive), L("Maçã"));
+    EXPECT_EQ(filtrar("nome;quant", "4", loCaseInsensitive | loContains), L("Pera"));
+    EXPECT_EQ(filtrar("quant", "2", loNenhuma), L("amaçar"));
+    cds.SetFilter(QStringLiteral("quant > 2"));
+    EXPECT_EQ(filtrar("nome", "maca", loCaseInsensitive | loContains), L("mação"))
+        << "both filters have to let it through";
+    EXPECT_EQ(filtrar("nome", "", loContains), L("mação Pera"));
+    EXPECT_THROW(cds.SetFilterText(QStringLiteral("nada"), QStringLiteral("x"), loNenhuma),
+                 EDatabaseError);
+    EXPECT_EQ(Nomes(), L("mação Pera")) << "the refused filter changed nothing";
+    cds.Close();
+    EXPECT_THROW(cds.SetFilterText(QStringLiteral("nome"), QStringLiteral("x"), loNenhuma),
+                 EDatabaseError);
+}
+
 TEST_F(TClientDataSetTest, BookmarksComeBackToTheirRow)
 {
     Por(L("c a b"));

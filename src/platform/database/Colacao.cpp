@@ -162,6 +162,43 @@ bool ChaveDe(const TTexto &texto, bool semCaixa, std::vector<unsigned char> &sai
     return true;
 }
 
+char16_t Dobrado(char16_t c)
+{
+    return c < Latinos ? Pesos().dobrada[c] : Base(c);
+}
+
+/** Whether a folded text stands at a place of another one, which is long enough. */
+template <typename TTexto>
+bool EstaEm(const TTexto &texto, qsizetype onde, QStringView dobrado)
+{
+    for (qsizetype i = 0; i < dobrado.size(); ++i) {
+        if (Dobrado(QChar(texto[onde + i]).unicode()) != dobrado[i])
+            return false;
+    }
+    return true;
+}
+
+template <typename TTexto>
+bool AchaAte(const TTexto &texto, QStringView dobrado, qsizetype ultimo)
+{
+    ultimo = std::min(ultimo, texto.size() - dobrado.size());
+    for (qsizetype onde = 0; onde <= ultimo; ++onde) {
+        if (EstaEm(texto, onde, dobrado))
+            return true;
+    }
+    return false;
+}
+
+bool Acha(QAnyStringView texto, QStringView dobrado, qsizetype ultimo)
+{
+    return texto.visit([&](auto t) {
+        if constexpr (std::is_same_v<decltype(t), QUtf8StringView>)
+            return AchaAte(t.toString(), dobrado, ultimo);
+        else
+            return AchaAte(t, dobrado, ultimo);
+    });
+}
+
 } // namespace
 
 bool TColacao::EhSimples(QAnyStringView texto)
@@ -220,8 +257,18 @@ QString TColacao::Dobrar(QAnyStringView texto)
 {
     QString dobrado = texto.toString();
     for (QChar &c : dobrado)
-        c = QChar(c.unicode() < Latinos ? Pesos().dobrada[c.unicode()] : Base(c.unicode()));
+        c = QChar(Dobrado(c.unicode()));
     return dobrado;
+}
+
+bool TColacao::ComecaCom(QAnyStringView texto, QStringView dobrado)
+{
+    return Acha(texto, dobrado, 0);
+}
+
+bool TColacao::Contem(QAnyStringView texto, QStringView dobrado)
+{
+    return Acha(texto, dobrado, texto.size());
 }
 
 } // namespace ficha

@@ -31,6 +31,10 @@ public:
     static std::vector<quint32> Postos(const std::vector<QString> &textos, bool semCaixa);
     /** The text as searches see it: small letters without accents. */
     static QString Dobrar(QAnyStringView texto);
+    /** Whether a text, seen so, begins with a folded one or has it somewhere. Without a copy: asked
+     * of every row of a list at every key. */
+    static bool ComecaCom(QAnyStringView texto, QStringView dobrado);
+    static bool Contem(QAnyStringView texto, QStringView dobrado);
 };
 
 } // namespace ficha

@@ -7,6 +7,8 @@
 #include "platform/database/OrdemDeLinhas.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <limits>
 
 namespace ficha
@@ -36,6 +38,15 @@ bool EhTexto(TFieldType tipo)
 
 } // namespace
 
+/** A value that is looked for in a column. */
+struct TClientDataSet::TAlvo {
+    int coluna = 0;
+    unsigned opcoes = loNenhuma;
+    bool comoTexto = false;
+    Variant valor;
+    QString procurado; /**< folded where neither case nor accents count */
+};
+
 struct TClientDataSet::TPrivado {
     TLinhasEmMemoria linhas;
     std::vector<quint32> ids; /**< by slot, rising; 0 for a deleted row */
@@ -55,6 +66,7 @@ struct TClientDataSet::TPrivado {
     int aparte = -1; /**< slot read under LinhaAparte, -1 for the row under edit */
 
     std::function<bool()> filtroDeTexto;
+    std::vector<TAlvo> digitado; /**< of which one has to be there; none: every row passes */
     std::function<bool(const TDataSet &)> pergunta;
 
     std::vector<int> Vivas() const
@@ -255,6 +267,18 @@ void TClientDataSet::SetFilter(const QString &texto)
         Reordenar();
 }
 
+void TClientDataSet::SetFilterText(const QString &nomes, const QString &texto, unsigned opcoes)
+{
+    ExigirAberto();
+    const std::vector<Variant> valores(size_t(nomes.count(u';') + 1), texto);
+    std::vector<TAlvo> novos = Alvos(nomes, valores, opcoes);
+    if (texto.isEmpty())
+        novos.clear();
+    d->digitado = std::move(novos);
+    if (filtrado)
+        Reordenar();
+}
+
 void TClientDataSet::SetOnFilterRecord(std::function<bool(const TDataSet &)> pergunta)
 {
     d->pergunta = std::move(pergunta);
@@ -281,36 +305,10 @@ bool TClientDataSet::Locate(const QString &nomes, const std::vector<Variant> &va
 {
     ExigirAberto();
     EncerrarEdicao();
-    const bool dobrar = opcoes & loCaseInsensitive;
-    struct TAlvo {
-        int coluna;
-        bool texto;
-        Variant valor;
-        QString procurado;
-    };
-    std::vector<TAlvo> alvos;
-    const QStringList lista = nomes.split(u';', Qt::SkipEmptyParts);
-    for (qsizetype i = 0; i < lista.size() && i < qsizetype(valores.size()); ++i) {
-        const TField *campo = FieldByName(lista[i]);
-        const Variant &valor = valores[size_t(i)];
-        const bool nulo = valor.EhNulo() || valor.EhNaoAtribuido();
-        const bool texto = EhTexto(campo->DataType()) && !nulo;
-        const QString procurado = texto ? valor.AsString() : QString();
-        alvos.push_back({ColunaDoCampo(*campo), texto, nulo ? Null : valor,
-                         dobrar ? TColacao::Dobrar(procurado) : procurado});
-    }
-    const auto serve = [&](int slot, const TAlvo &alvo) {
-        if (!alvo.texto || d->linhas.Nula(slot, alvo.coluna))
-            return d->linhas.Valor(slot, alvo.coluna) == alvo.valor;
-        const QAnyStringView cru = d->linhas.Texto(slot, alvo.coluna);
-        if (!dobrar && !(opcoes & loPartialKey))
-            return cru == QAnyStringView(alvo.procurado);
-        const QString texto = dobrar ? TColacao::Dobrar(cru) : cru.toString();
-        return opcoes & loPartialKey ? texto.startsWith(alvo.procurado) : texto == alvo.procurado;
-    };
+    const std::vector<TAlvo> alvos = Alvos(nomes, valores, opcoes);
     const auto achado = std::find_if(d->visiveis.begin(), d->visiveis.end(), [&](int slot) {
         return std::all_of(alvos.begin(), alvos.end(),
-                           [&](const TAlvo &alvo) { return serve(slot, alvo); });
+                           [&](const TAlvo &alvo) { return Serve(slot, alvo); });
     });
     if (alvos.empty() || achado == d->visiveis.end())
         return false;
@@ -493,6 +491,53 @@ Variant TClientDataSet::Converter(const TField &campo, const Variant &valor) con
     }
 }
 
+std::vector<TClientDataSet::TAlvo> TClientDataSet::Alvos(const QString &nomes,
+                                                         const std::vector<Variant> &valores,
+                                                         unsigned opcoes) const
+{
+    const bool parte = opcoes & (loPartialKey | loContains);
+    std::vector<TAlvo> alvos;
+    const QStringList lista = nomes.split(u';', Qt::SkipEmptyParts);
+    for (qsizetype i = 0; i < lista.size() && i < qsizetype(valores.size()); ++i) {
+        const TField *campo = FieldByName(lista[i]);
+        const Variant &valor = valores[size_t(i)];
+        const bool nulo = valor.EhNulo() || valor.EhNaoAtribuido();
+        TAlvo alvo{ColunaDoCampo(*campo), opcoes, false, nulo ? Null : valor, {}};
+        alvo.comoTexto = !nulo && (parte || EhTexto(campo->DataType()));
+        if (alvo.comoTexto) {
+            const QString texto = valor.AsString();
+            alvo.procurado = opcoes & loCaseInsensitive ? TColacao::Dobrar(texto) : texto;
+        }
+        alvos.push_back(std::move(alvo));
+    }
+    return alvos;
+}
+
+bool TClientDataSet::Serve(int slot, const TAlvo &alvo) const
+{
+    if (!alvo.comoTexto || d->linhas.Nula(slot, alvo.coluna))
+        return d->linhas.Valor(slot, alvo.coluna) == alvo.valor;
+    const bool dobrar = alvo.opcoes & loCaseInsensitive;
+    const auto confere = [&](QAnyStringView texto) {
+        if (alvo.opcoes & loContains)
+            return dobrar ? TColacao::Contem(texto, alvo.procurado)
+                          : texto.toString().contains(alvo.procurado);
+        if (!(alvo.opcoes & loPartialKey) && texto.size() != alvo.procurado.size())
+            return false;
+        return dobrar ? TColacao::ComecaCom(texto, alvo.procurado)
+                      : texto.toString().startsWith(alvo.procurado);
+    };
+    if (d->linhas.EhTexto(alvo.coluna))
+        return confere(d->linhas.Texto(slot, alvo.coluna));
+    const TFieldType tipo = definicoes[size_t(alvo.coluna)].tipo;
+    if (tipo != TFieldType::ftInteger && tipo != TFieldType::ftSmallint)
+        return confere(d->linhas.Valor(slot, alvo.coluna).AsString());
+    std::array<char, 12> digitos{};
+    const auto [fim, erro] = std::to_chars(digitos.data(), digitos.data() + digitos.size(),
+                                           int(d->linhas.Numero(slot, alvo.coluna)));
+    return confere(QLatin1StringView(digitos.data(), fim));
+}
+
 int TClientDataSet::SlotAtual() const
 {
     return RecNo() > 0 ? d->visiveis[size_t(RecNo() - 1)] : -1;
@@ -541,6 +586,9 @@ void TClientDataSet::Refazer()
 /** Whether the filters let a row through, its values being the fields' meanwhile. */
 bool TClientDataSet::Passa(int slot)
 {
+    const auto serve = [&](const TAlvo &alvo) { return Serve(slot, alvo); };
+    if (!d->digitado.empty() && std::none_of(d->digitado.begin(), d->digitado.end(), serve))
+        return false;
     if (!d->filtroDeTexto && !d->pergunta)
         return true;
     struct TAparte {
