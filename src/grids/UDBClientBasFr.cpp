@@ -1,6 +1,7 @@
 #include "grids/UDBClientBasFr.h"
 
 #include "platform/support/DBGridDrawCell.h"
+#include "platform/support/DBGridOrdem.h"
 #include "platform/support/SisD.h"
 #include "platform/support/TDBGrid.h"
 #include "platform/toolkit/Evento.h"
@@ -120,16 +121,7 @@ void TDBClientBasFr::PrepGridEsconderCol(TDBGrid *grid, int &coluna)
 
 void TDBClientBasFr::AjustarIndices()
 {
-    const auto definir = [this](const QString &nome, const QString &campo, unsigned opcoes) {
-        // The frame may be shown again: its indexes are there already.
-        if (!CDS->HasIndex(nome))
-            CDS->AddIndex(nome, campo, opcoes);
-    };
-    for (int i = 0; i < CDS->FieldCount(); ++i) {
-        const QString &campo = CDS->Fields(i)->FieldName();
-        definir(u'a' + campo, campo, ixNenhuma);
-        definir(u'd' + campo, campo, ixDescending);
-    }
+    DBGridCriarIndices(*CDS);
     CampoOrdem = CDS->Fields(0)->FieldName();
     DBGridReservarSeta(*DBGrid1, CampoOrdem);
 }
@@ -159,14 +151,9 @@ void TDBClientBasFr::PegarComponentes()
 
 void TDBClientBasFr::DBGrid1TitleClick(TColumn *column)
 {
-    const QString campo = column->GetFieldName();
-    const bool subir = CDS->GetIndexName() != u'a' + campo;
-    CDS->SetIndexName((subir ? u'a' : u'd') + campo);
-    Ascendente = subir;
-    CampoOrdem = campo;
-    TitulosNormais(DBGrid1);
-    DBGridMarcarTitulo(*column);
-    DBGridReservarSeta(*DBGrid1, CampoOrdem);
+    const TOrdemDaLista ordem = DBGridTitleClick(*CDS, *column);
+    Ascendente = ordem.Ascendente;
+    CampoOrdem = ordem.Campo;
 }
 
 void TDBClientBasFr::DBGrid1DrawColumnCell(QObject *, QPainter &p, const QRect &rect, int,
