@@ -204,6 +204,9 @@ TEST_F(TDataOpcionalFrTest, ATypedNumberIsThePositionAndChecksItsMode)
     EXPECT_EQ(numeros[1]->UpDown1->GetPosition(), 12);
     EXPECT_EQ(Modo(), 1);
     EXPECT_EQ(Where(), Periodo("18.12.2023", "11.03.2024"));
+    numeros[1]->NumEditBR1->selectAll();
+    Digitar(numeros[1]->NumEditBR1, QStringLiteral("2"));
+    EXPECT_EQ(Where(), Periodo("26.02.2024", "11.03.2024"));
 }
 
 TEST_F(TDataOpcionalFrTest, NumbersOutside1To600AreRefused)

@@ -179,8 +179,9 @@ TEST_F(TProdutosFTest, ThePeriodOfRegistrationIsTyped)
     cadastro->MaskEdit1->setFocus();
     Digitar(QStringLiteral("05032024"));
     cadastro->MaskEdit2->setFocus();
-    Digitar(QStringLiteral("05032024"));
+    Digitar(QStringLiteral("050324"));
     Tecla(Qt::Key_Return);
+    EXPECT_EQ(cadastro->MaskEdit2->GetEditText(), QStringLiteral("05/03/2024"));
     EXPECT_EQ(NaLista(), 7);
     EXPECT_EQ(Status(),
               QStringLiteral("Exibindo os produtos cadastro: De 05/03/2024 ate 05/03/2024"));
