@@ -440,10 +440,13 @@ void TSelectFr::LigarDataSet()
     SQLDataSet1AfterOpen(cds);
 }
 
+/** Once; a list that is loaded is only brought up to date. */
 void TSelectFr::CarregarUmaVez()
 {
-    if (Carregado)
+    if (Carregado) {
+        ClientManager1->Atualizar();
         return;
+    }
     const QPointer<TSelectFr> vivo(this);
     ClientManager1->Carregar();
     if (vivo)

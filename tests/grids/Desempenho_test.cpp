@@ -3,8 +3,12 @@
 // build and bounded in the release one.
 
 #include "grids/UDBClientBasFr.h"
+
+#include "grids/SelectProdutosFr.h"
 #include "platform/support/TDBGrid.h"
 #include "platform/support/TDataSource.h"
+#include "platform/toolkit/TLabeledEdit.h"
+#include "platform/toolkit/TRadioButton.h"
 
 #include <QElapsedTimer>
 #include <QHeaderView>
@@ -198,6 +202,68 @@ TTempos DoToolkit(const QStringList &nomes)
 }
 
 } // namespace
+
+namespace
+{
+
+/** Milliseconds from each key in the search edit to the painted list, sorted. */
+std::vector<double> TempoPorTecla(bool filtrar, const QStringList &nomes)
+{
+    QWidget tela;
+    tela.resize(800, 600);
+    auto *busca = new TLabeledEdit(&tela);
+    busca->setGeometry(10, 20, 200, 21);
+    auto *fr = Criar<testes::TSelectProdutosFr>(&tela);
+    fr->PegarBuscaLabeledEdit(busca);
+    fr->Ler = [&](TClientDataSet &cds) {
+        for (int i = 0; i < nomes.size(); ++i)
+            cds.AppendRecord({i, nomes[i], i * 1.17});
+    };
+    tela.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&tela));
+    busca->setFocus();
+    const double abrir = Medir([&] { QTest::keyClick(busca, Qt::Key_Down); });
+    std::printf("[ FIGURES  ] %d rows, select list: load and open %.1f ms\n", int(nomes.size()),
+                abrir);
+    if (filtrar)
+        fr->FilRadioButton->SetChecked(true);
+    std::vector<double> tempos;
+    const auto tecla = [&](Qt::Key qual, const QString &texto) {
+        tempos.push_back(Medir([&] {
+            QTest::sendKeyEvent(QTest::Press, busca, qual, texto, Qt::NoModifier);
+            QCoreApplication::processEvents();
+            fr->repaint();
+        }));
+        QTest::sendKeyEvent(QTest::Release, busca, qual, texto, Qt::NoModifier);
+    };
+    // Texts that many rows have, that few have and that none has, typed and taken back.
+    for (const char *texto : {"jose da silva", "zzz nada", "conceicao assuncao", "a", "sa 12345",
+                              "luis goncalves brandao 9", "erica x", "marcia de sa araujo 777"}) {
+        for (const char *c = texto; *c; ++c)
+            tecla(Qt::Key(QChar(*c).toUpper().unicode()), QString(QChar(*c)));
+        while (!busca->GetText().isEmpty())
+            tecla(Qt::Key_Backspace, QString());
+    }
+    std::sort(tempos.begin(), tempos.end());
+    return tempos;
+}
+
+} // namespace
+
+TEST(Desempenho, EveryKeyInASearchEditRepaintsItsListWithinAFrameOfTheScreen)
+{
+    const QStringList nomes = Cobrar ? Nomes() : Nomes().mid(0, 1000);
+    for (const bool filtrar : {false, true}) {
+        const std::vector<double> tempos = TempoPorTecla(filtrar, nomes);
+        const double mediana = tempos[tempos.size() / 2];
+        const double quase = tempos[tempos.size() * 99 / 100];
+        std::printf("[ FIGURES  ] %d rows, select list, %s: %zu keys, median %.2f ms, 99 in 100 "
+                    "within %.2f ms, worst %.2f ms\n",
+                    int(nomes.size()), filtrar ? "filtering" : "positioning", tempos.size(),
+                    mediana, quase, tempos.back());
+        EXPECT_TRUE(!Cobrar || quase < 16);
+    }
+}
 
 TEST(Desempenho, AListOfThePlatformAgainstOneOfTheToolkit)
 {

@@ -154,13 +154,24 @@ TEST_F(TSelectCodBasFrTest, LayoutIsTheGoldenOne)
 
 TEST_F(TSelectCodBasFrTest, TabGoesFromCodeToDescriptionToButton)
 {
-    fr->CodNumEditBR->setFocus();
+    depois->setFocus();
+    QTest::keyClick(Foco(), Qt::Key_Tab);
+    EXPECT_EQ(Foco(), fr->CodNumEditBR);
     QTest::keyClick(Foco(), Qt::Key_Tab);
     EXPECT_EQ(Foco(), fr->DescrLabeledEdit);
     QTest::keyClick(Foco(), Qt::Key_Tab);
     EXPECT_EQ(Foco(), fr->SelectBitBtn);
     QTest::keyClick(Foco(), Qt::Key_Tab);
     EXPECT_EQ(Foco(), depois);
+}
+
+TEST(TSelectCodBasFr, AScreenOfItsOwnStartsInTheCode)
+{
+    QWidget tela;
+    auto *fr = Criar<TSelectCodBasFr>(&tela);
+    tela.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&tela));
+    EXPECT_EQ(QApplication::focusWidget(), fr->CodNumEditBR);
 }
 
 TEST_F(TSelectCodBasFrTest, EnterInTheCodeAsksForItShowsBothAndGoesOn)

@@ -3,12 +3,14 @@
 #include "grids/SelectProdutosFr.h"
 #include "platform/core/Erros.h"
 #include "platform/core/Servicos.h"
+#include "platform/database/TSQLQuery.h"
 #include "platform/toolkit/TAction.h"
 #include "platform/toolkit/TActionList.h"
 #include "platform/toolkit/TImageList.h"
 #include "platform/toolkit/TLabeledEdit.h"
 #include "platform/toolkit/TPanel.h"
 #include "platform/toolkit/TRadioButton.h"
+#include "support/BancoTemp.h"
 #include "support/Girar.h"
 #include "support/Layouts.h"
 
@@ -18,7 +20,7 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <optional>
+#include <memory>
 
 using namespace ficha;
 using namespace ficha::testes;
@@ -776,6 +778,12 @@ TEST_F(TSelectFrTest, TheListIsLoadedOnceAndReadAgainOnlyWhenItIsOutOfDate)
     EXPECT_EQ(fr->leituras, 2);
     EXPECT_EQ(Cds()->RecordCount(), int(std::size(Produtos)));
     EXPECT_EQ(fr->Cod(), 3) << "on the row where it was";
+    Tecla(Qt::Key_Escape);
+    fr->ClientManager1->Invalidar();
+    busca->SetText(QStringLiteral("12"));
+    Tecla(Qt::Key_Return);
+    EXPECT_EQ(fr->leituras, 3) << "a code is looked for in rows of today";
+    EXPECT_EQ(enviados, QList<int>{12});
 }
 
 TEST_F(TSelectFrTest, AListThatCannotBeLoadedIsHiddenAndTheNextKeyTriesAgain)
@@ -882,21 +890,20 @@ TEST_F(TSelectFrTest, AnotherEditMayTakeTheListOverAndTheFirstOneLetsGo)
 
 TEST_F(TSelectFrTest, PartsMayGoFirstInAnyOrder)
 {
-    enum TParte { Edit, Lista, Frame, Dataset };
-    QList<TParte> ordem = {Edit, Lista, Frame, Dataset};
+    enum TParte { Edit, Dataset, Frame, Form };
+    QList<TParte> ordem = {Edit, Dataset, Frame, Form};
     do {
-        QWidget janela;
-        janela.resize(500, 400);
-        QPointer<TLabeledEdit> edit = new TLabeledEdit(&janela);
+        auto janela = std::make_unique<QWidget>();
+        janela->resize(500, 400);
+        const QPointer<TLabeledEdit> edit = new TLabeledEdit(janela.get());
         edit->setGeometry(10, 20, 100, 21);
-        QPointer<TListaFr> lista = Criar<TListaFr>(&janela);
+        const QPointer<TListaFr> lista = Criar<TListaFr>(janela.get());
         lista->PegarBuscaLabeledEdit(edit);
-        janela.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&janela));
+        janela->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(janela.get()));
         edit->setFocus();
         Digitar("c");
         ASSERT_TRUE(lista->isVisible());
-        const QPointer<TDBGrid> grade = lista->DBGrid1;
         const QPointer<TClientDataSet> cds = lista->ClientManager1->CDS1;
         for (const TParte parte : ordem) {
             if (parte == Edit)
@@ -905,8 +912,8 @@ TEST_F(TSelectFrTest, PartsMayGoFirstInAnyOrder)
                 delete cds;
             else if (parte == Frame)
                 delete lista;
-            else if (lista)
-                lista->ClientManager1->SetDBGrid1(nullptr);
+            else
+                janela.reset();
             if (edit) {
                 edit->setFocus();
                 Digitar("a");
@@ -922,11 +929,12 @@ TEST_F(TSelectFrTest, PartsMayGoFirstInAnyOrder)
                 lista->Exibir();
                 lista->Buscar(QStringLiteral("ca"));
                 lista->FilRadioButton->SetChecked(true);
-                QTest::mouseClick(grade->viewport(), Qt::LeftButton, {}, QPoint(30, 30));
-                grade->grab();
+                QTest::mouseClick(lista->DBGrid1->viewport(), Qt::LeftButton, {}, QPoint(30, 30));
+                lista->grab();
             }
             Girar();
         }
+        EXPECT_FALSE(edit || cds || lista);
     } while (std::next_permutation(ordem.begin(), ordem.end()));
 }
 
@@ -961,4 +969,38 @@ TEST_F(TSelectFrTest, AFormMayGoInTheMiddleOfAKey)
     EXPECT_TRUE(vivo.isNull());
     Digitar("b");
     EXPECT_EQ(busca->GetText(), QStringLiteral("cab"));
+}
+
+TEST_F(TSelectFrTest, RowsOfAQueryAreFoundByCodeOrText)
+{
+    TBancoTemp banco(
+        QStringLiteral("create table produtos (cod integer not null primary key, descr "
+                       "varchar(60), preco numeric(15,2), obs varchar(10));"));
+    for (const TProduto &p : Produtos)
+        banco.Executar(QStringLiteral("insert into produtos values (%1, '%2', %3, 'x')")
+                           .arg(p.cod)
+                           .arg(QString::fromUtf8(p.descr))
+                           .arg(p.preco));
+    TSQLQuery query;
+    query.SetSQLConnection(&banco.Conexao());
+    query.SetSQL(QStringLiteral("select descr, obs, cod, preco from produtos"));
+    fr->Ler = [&](TClientDataSet &) {
+        query.Close();
+        query.Open();
+        fr->ClientManager1->CopiarDe(query);
+    };
+    Mostrar();
+    Digitar("abaj");
+    EXPECT_EQ(Cds()->RecordCount(), int(std::size(Produtos)));
+    EXPECT_EQ(fr->DBGrid1->GetCell(2, fr->DBGrid1->GetRow()), QStringLiteral("99,90"));
+    Tecla(Qt::Key_Return);
+    busca->SetText(QStringLiteral("123"));
+    Tecla(Qt::Key_Return);
+    EXPECT_EQ(enviados, (QList<int>{12, 123}));
+    banco.Executar(QStringLiteral("insert into produtos values (900, 'Abajur novo', 1, null)"));
+    fr->ClientManager1->Invalidar();
+    busca->Clear();
+    Digitar("abajur n");
+    Tecla(Qt::Key_Return);
+    EXPECT_EQ(enviados.last(), 900);
 }

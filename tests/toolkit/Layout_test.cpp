@@ -478,6 +478,21 @@ TEST_F(Layout, PagesItemsAndQtLayouts)
     EXPECT_EQ(p->tabText(1), QStringLiteral("Campos"));
 }
 
+TEST_F(Layout, TheLastControlMadeMayBeTheFirstTabStopOfAWindow)
+{
+    pasta.Escrever(QStringLiteral("TSolto"), QStringLiteral(R"(<class>TSolto</class>
+<widget class="QFrame" name="Solto"><widget class="QLineEdit" name="A"/><widget class="QLineEdit" name="B"/>
+<widget class="QLineEdit" name="C"/></widget>
+<tabstops><tabstop>C</tabstop><tabstop>A</tabstop><tabstop>B</tabstop></tabstops>)"));
+    QWidget janela;
+    Criar<TSolto>(&janela);
+    QString ordem;
+    for (QWidget *w = janela.nextInFocusChain(); w != &janela; w = w->nextInFocusChain())
+        if (w->focusPolicy() & Qt::TabFocus)
+            ordem += w->objectName();
+    EXPECT_EQ(ordem, QStringLiteral("CAB"));
+}
+
 TEST_F(Layout, AlignedControlsStickToTheirSidesAcrossTheChain)
 {
     pasta.Escrever(QStringLiteral("TAvo"), QStringLiteral(R"(<class>TAvo</class>

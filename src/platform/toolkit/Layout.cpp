@@ -506,6 +506,10 @@ QList<QWidget *> Paradas(QWidget *controle)
 
 void TConstrutor::Tabular(const QStringList &nomes)
 {
+    // Qt leaves a stop alone that is the next one already, also around the end of the window: the
+    // last control made would stay the last stop of a frame that has the window for itself.
+    QWidget fim(nomes.isEmpty() ? nullptr : raiz);
+    fim.setFocusPolicy(Qt::TabFocus);
     QWidget *antes = nullptr;
     for (const QString &nome : nomes) {
         auto *controle = static_cast<QWidget *>(Referido(nome, raiz));
