@@ -69,7 +69,11 @@ TTabLinFiltroBasF::TTabLinFiltroBasF(TChave chave)
     FiltroImageList->setObjectName(QStringLiteral("FiltroImageList"));
     FiltroImageList->AddSvg(0, QStringLiteral("filtro-zerar"));
     FiltroImageList->AddSvg(1, QStringLiteral("filtro"));
-    Ligar(SQLQuery1, &TDataSet::BeforeOpen, this, [this] { SQLQuery1BeforeOpen(SQLQuery1); });
+    Ligar(SQLQuery1, &TDataSet::BeforeOpen, this, [this] {
+        textoPreparado = false;
+        SQLQuery1BeforeOpen(SQLQuery1);
+        textoPreparado = true;
+    });
 }
 
 void TTabLinFiltroBasF::Atualizar()
@@ -92,6 +96,8 @@ bool TTabLinFiltroBasF::AtivarInsersao()
     if (PodeIniciarEdicao() && !liberando) {
         const TFlagGuarda guarda(this, &TTabLinFiltroBasF::liberando, true);
         FiltroZerarAct->Execute();
+        if (!textoPreparado)
+            return true;
     }
     return TTabLinearBasF::AtivarInsersao();
 }
@@ -264,7 +270,7 @@ bool TTabLinFiltroBasF::LiberarMantendoRegistro()
                                  &TTabLinFiltroBasF::mostrarAoReler, false);
         FiltroZerarAct->Execute();
     }
-    if (!viva || !PodeIniciarEdicao())
+    if (!viva || !PodeIniciarEdicao() || !textoPreparado)
         return false;
     if (tinha && Tab->ChavesGarantia() != chaves) {
         const QScopedValueRollback<bool> controles(Tab->AtualizarControles, false);

@@ -19,9 +19,9 @@ class TSplitter;
  * moved below them); PrepararSQL, which writes the query's text from them and runs at every opening
  * of the list; ZerarFiltro, which empties them; and, as it likes, AtualizarFiltroPanel,
  * FiltroStatusLabel and FiltroAtivo, which tell what is in force. All three operations already run
- * before the list is first opened. A PrepararSQL that raises is reported to the host, and the list
- * opens with the text it had. The code frame of the screen is its first TNumEditBRCodBasFr, the
- * panel's included: a filter by code uses another kind of number frame.
+ * before the list is first opened. A PrepararSQL that raises is reported to the host; the list then
+ * opens with the text it had, and no edit starts. The code frame of the screen is its first
+ * TNumEditBRCodBasFr, the panel's included: a filter by code uses another kind of number frame.
  *
  * Starting an insertion, alteration or deletion releases the filter first. An alteration or
  * deletion acts on the record that was current in the filtered list: it is found again by its whole
@@ -103,6 +103,8 @@ private:
 
     /** The filter was released for the edit that is being started. */
     bool liberando = false;
+    /** The text with which the list was opened last is the one of the filter. */
+    bool textoPreparado = true;
 };
 
 } // namespace ficha

@@ -88,6 +88,9 @@ TEST_F(BancoComercialTest, AnOlderDatabaseGainsWhatItLacksAndKeepsWhatItHolds)
     EXPECT_EQ(ValorDoBanco(conexao, QStringLiteral("select cod_barras from produtos")),
               Variant(u""))
         << "no bar code is no Null either";
+    EXPECT_EQ(
+        Numero(conexao, QStringLiteral("select count(*) from produtos where cadastro is null")), 1)
+        << "nobody knows on which day it was registered";
     EXPECT_EQ(Numero(conexao, QStringLiteral("select count(*) from cep_uf")), 27);
     EXPECT_EQ(Numero(conexao, QStringLiteral("select count(*) from clientes")), 0)
         << "nobody is invented in a database that is in use";

@@ -892,6 +892,19 @@ TEST_F(TTabLinFiltroBasFTest, ACriterionThatCannotBeBuiltIsReportedAndTheListKee
     erros.clear();
     EXPECT_EQ(tela->Lista(), QStringList({"1 porca 1", "3 porca 3", "5 porca 5"}));
     EXPECT_TRUE(tela->AtualizarLigado);
+    // The list cannot be released: no edit starts in it.
+    const QStringList antes = NoBanco();
+    tela->PerguntarExcluir = false;
+    for (TAction *acao : {tela->InsAction, tela->AltAction, tela->ExclAction}) {
+        acao->Execute();
+        EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso) << acao->GetCaption().toStdString();
+    }
+    EXPECT_EQ(NoBanco(), antes);
+    erros.clear();
+    tela->falhaDoSQL = false;
+    tela->AltAction->Execute();
+    EXPECT_EQ(tela->Tab->Status, TStatus::Alterando);
+    EXPECT_EQ(tela->Lista().size(), 6);
 }
 
 TEST_F(TTabLinFiltroBasFTest, AnotherScreensLockRefusesTheAlterationOfTheVeryRecord)
