@@ -526,7 +526,9 @@ void TEnderecoBasFr::EntradaKeyPress(QObject *, QChar &caractere)
 void TEnderecoBasFr::NumFocusTimerTimer(QObject *)
 {
     NumFocusTimer->stop();
-    NumLabeledEdit->setFocus(Qt::TabFocusReason);
+    // Another page may be in view by now.
+    if (NumLabeledEdit->isVisible())
+        NumLabeledEdit->setFocus(Qt::TabFocusReason);
 }
 
 void TEnderecoBasFr::CEPFocusTimerTimer(QObject *)

@@ -1041,6 +1041,18 @@ TEST_F(TEnderecoBasFrTest, TheCepTimerGivesTheFocusOnlyToWhatIsVisible)
     EXPECT_EQ(janela.focusWidget(), antes);
 }
 
+TEST_F(TEnderecoBasFrTest, TheNumberTimerLeavesTheFocusWhereTheFrameIsNotInView)
+{
+    Inserir();
+    EntrarCep("57303807");
+    ASSERT_TRUE(fr->NumFocusTimer->isActive());
+    antes->setFocus();
+    fr->hide();
+    QTest::qWait(250);
+    fr->show();
+    EXPECT_EQ(Foco(), antes);
+}
+
 TEST_F(TEnderecoBasFrTest, TimersDoNotOutliveTheFrame)
 {
     Inserir();
