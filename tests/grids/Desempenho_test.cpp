@@ -206,14 +206,54 @@ TTempos DoToolkit(const QStringList &nomes)
 namespace
 {
 
-/** Milliseconds from each key in the search edit to the painted list, sorted. */
+class TListaDoTeste : public testes::TSelectProdutosFr
+{
+public:
+    explicit TListaDoTeste(TChave chave) : TSelectProdutosFr(chave) {}
+    int pintadas = 0;
+
+protected:
+    void DBGrid1DrawColumnCell(QObject *sender, QPainter &p, const QRect &rect, int dataCol,
+                               TColumn *column, unsigned state) override
+    {
+        ++pintadas;
+        TSelectProdutosFr::DBGrid1DrawColumnCell(sender, p, rect, dataCol, column, state);
+    }
+};
+
+/** Milliseconds from each key in the search edit to the painted list: texts that many rows have,
+ * that few have and that none has, typed and taken back. */
+std::vector<double> TempoPorTecla(TLabeledEdit *busca, TListaDoTeste *fr)
+{
+    std::vector<double> tempos;
+    const auto tecla = [&](Qt::Key qual, const QString &texto) {
+        fr->pintadas = 0;
+        tempos.push_back(Medir([&] {
+            QTest::sendKeyEvent(QTest::Press, busca, qual, texto, Qt::NoModifier);
+            QCoreApplication::processEvents();
+            if (fr->pintadas == 0)
+                fr->repaint(); // nothing moved
+        }));
+        QTest::sendKeyEvent(QTest::Release, busca, qual, texto, Qt::NoModifier);
+    };
+    for (const char *texto : {"jose da silva", "zzz nada", "conceicao assuncao", "a", "sa 12345",
+                              "luis goncalves brandao 9", "erica x", "marcia de sa araujo 777"}) {
+        for (const char *c = texto; *c; ++c)
+            tecla(Qt::Key(QChar(*c).toUpper().unicode()), QString(QChar(*c)));
+        while (!busca->GetText().isEmpty())
+            tecla(Qt::Key_Backspace, QString());
+    }
+    return tempos;
+}
+
+/** Of each key the best of some runs, sorted. */
 std::vector<double> TempoPorTecla(bool filtrar, const QStringList &nomes)
 {
     QWidget tela;
     tela.resize(800, 600);
     auto *busca = new TLabeledEdit(&tela);
     busca->setGeometry(10, 20, 200, 21);
-    auto *fr = Criar<testes::TSelectProdutosFr>(&tela);
+    auto *fr = Criar<TListaDoTeste>(&tela);
     fr->PegarBuscaLabeledEdit(busca);
     fr->Ler = [&](TClientDataSet &cds) {
         for (int i = 0; i < nomes.size(); ++i)
@@ -227,22 +267,11 @@ std::vector<double> TempoPorTecla(bool filtrar, const QStringList &nomes)
                 abrir);
     if (filtrar)
         fr->FilRadioButton->SetChecked(true);
-    std::vector<double> tempos;
-    const auto tecla = [&](Qt::Key qual, const QString &texto) {
-        tempos.push_back(Medir([&] {
-            QTest::sendKeyEvent(QTest::Press, busca, qual, texto, Qt::NoModifier);
-            QCoreApplication::processEvents();
-            fr->repaint();
-        }));
-        QTest::sendKeyEvent(QTest::Release, busca, qual, texto, Qt::NoModifier);
-    };
-    // Texts that many rows have, that few have and that none has, typed and taken back.
-    for (const char *texto : {"jose da silva", "zzz nada", "conceicao assuncao", "a", "sa 12345",
-                              "luis goncalves brandao 9", "erica x", "marcia de sa araujo 777"}) {
-        for (const char *c = texto; *c; ++c)
-            tecla(Qt::Key(QChar(*c).toUpper().unicode()), QString(QChar(*c)));
-        while (!busca->GetText().isEmpty())
-            tecla(Qt::Key_Backspace, QString());
+    std::vector<double> tempos = TempoPorTecla(busca, fr);
+    for (int i = 1; i < (Cobrar ? 3 : 1); ++i) {
+        const std::vector<double> outra = TempoPorTecla(busca, fr);
+        for (size_t t = 0; t < tempos.size(); ++t)
+            tempos[t] = std::min(tempos[t], outra[t]);
     }
     std::sort(tempos.begin(), tempos.end());
     return tempos;

@@ -167,23 +167,27 @@ char16_t Dobrado(char16_t c)
     return c < Latinos ? Pesos().dobrada[c] : Base(c);
 }
 
-/** Whether a folded text stands at a place of another one, which is long enough. */
-template <typename TTexto>
-bool EstaEm(const TTexto &texto, qsizetype onde, QStringView dobrado)
+/** The same with the table at hand, for loops over many letters. */
+char16_t Dobrado(QChar c, const std::array<char16_t, Latinos> &tabela)
 {
-    for (qsizetype i = 0; i < dobrado.size(); ++i) {
-        if (Dobrado(QChar(texto[onde + i]).unicode()) != dobrado[i])
-            return false;
-    }
-    return true;
+    return c.unicode() < Latinos ? tabela[c.unicode()] : Base(c.unicode());
 }
 
 template <typename TTexto>
 bool AchaAte(const TTexto &texto, QStringView dobrado, qsizetype ultimo)
 {
+    if (dobrado.isEmpty())
+        return true;
+    const auto &tabela = Pesos().dobrada;
+    const auto seguem = [&](qsizetype onde) {
+        qsizetype i = 1;
+        while (i < dobrado.size() && Dobrado(QChar(texto[onde + i]), tabela) == dobrado[i])
+            ++i;
+        return i == dobrado.size();
+    };
     ultimo = std::min(ultimo, texto.size() - dobrado.size());
     for (qsizetype onde = 0; onde <= ultimo; ++onde) {
-        if (EstaEm(texto, onde, dobrado))
+        if (Dobrado(QChar(texto[onde]), tabela) == dobrado[0] && seguem(onde))
             return true;
     }
     return false;

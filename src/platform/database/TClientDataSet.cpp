@@ -19,7 +19,8 @@ namespace
 
 /** The row number under which the fields read a row that stands in no list. */
 constexpr int LinhaAparte = std::numeric_limits<int>::max();
-constexpr int PoucosMortos = 1024; // rows whose loss is not worth moving the others
+constexpr qsizetype PoucasLinhas = 256; // looked at in the order shown before all are asked
+constexpr int PoucosMortos = 1024;      // rows whose loss is not worth moving the others
 
 [[noreturn]] void Recusar(const QString &texto)
 {
@@ -78,6 +79,16 @@ struct TClientDataSet::TPrivado {
                 vivas.push_back(int(i));
         }
         return vivas;
+    }
+    /** Asks about every living row in the order in which they lie in memory, which is many times
+     * faster than the order shown. */
+    template <typename F>
+    std::vector<bool> Perguntar(F &&serve) const
+    {
+        std::vector<bool> respostas(ids.size());
+        for (size_t slot = 0; slot < ids.size(); ++slot)
+            respostas[slot] = ids[slot] != 0 && serve(int(slot));
+        return respostas;
     }
     const TOrdem &Ordem(const TCriterio &criterio)
     {
@@ -306,10 +317,14 @@ bool TClientDataSet::Locate(const QString &nomes, const std::vector<Variant> &va
     ExigirAberto();
     EncerrarEdicao();
     const std::vector<TAlvo> alvos = Alvos(nomes, valores, opcoes);
-    const auto achado = std::find_if(d->visiveis.begin(), d->visiveis.end(), [&](int slot) {
-        return std::all_of(alvos.begin(), alvos.end(),
-                           [&](const TAlvo &alvo) { return Serve(slot, alvo); });
-    });
+    const auto serve = [&](int slot) { return ServemTodos(slot, alvos); };
+    const auto perto = d->visiveis.begin() + std::min(qsizetype(d->visiveis.size()), PoucasLinhas);
+    auto achado = std::find_if(d->visiveis.begin(), perto, serve);
+    if (achado == perto && perto != d->visiveis.end()) {
+        const std::vector<bool> servem = d->Perguntar(serve);
+        achado =
+            std::find_if(perto, d->visiveis.end(), [&](int slot) { return servem[size_t(slot)]; });
+    }
     if (alvos.empty() || achado == d->visiveis.end())
         return false;
     MoveBy(int(achado - d->visiveis.begin()) + 1 - RecNo());
@@ -538,6 +553,18 @@ bool TClientDataSet::Serve(int slot, const TAlvo &alvo) const
     return confere(QLatin1StringView(digitos.data(), fim));
 }
 
+bool TClientDataSet::ServemTodos(int slot, const std::vector<TAlvo> &alvos) const
+{
+    return std::all_of(alvos.begin(), alvos.end(),
+                       [&](const TAlvo &alvo) { return Serve(slot, alvo); });
+}
+
+bool TClientDataSet::PassaDigitado(int slot) const
+{
+    return d->digitado.empty() || std::any_of(d->digitado.begin(), d->digitado.end(),
+                                              [&](const TAlvo &alvo) { return Serve(slot, alvo); });
+}
+
 int TClientDataSet::SlotAtual() const
 {
     return RecNo() > 0 ? d->visiveis[size_t(RecNo() - 1)] : -1;
@@ -577,7 +604,12 @@ void TClientDataSet::Refazer()
     } else {
         novas = d->Vivas();
     }
-    if (filtrado)
+    if (filtrado && !d->digitado.empty()) {
+        const std::vector<bool> passam =
+            d->Perguntar([this](int slot) { return PassaDigitado(slot); });
+        std::erase_if(novas, [&](int slot) { return !passam[size_t(slot)]; });
+    }
+    if (filtrado && (d->filtroDeTexto || d->pergunta))
         std::erase_if(novas, [this](int slot) { return !Passa(slot); });
     d->visiveis = std::move(novas);
     d->desordenado = false;
@@ -586,8 +618,7 @@ void TClientDataSet::Refazer()
 /** Whether the filters let a row through, its values being the fields' meanwhile. */
 bool TClientDataSet::Passa(int slot)
 {
-    const auto serve = [&](const TAlvo &alvo) { return Serve(slot, alvo); };
-    if (!d->digitado.empty() && std::none_of(d->digitado.begin(), d->digitado.end(), serve))
+    if (!PassaDigitado(slot))
         return false;
     if (!d->filtroDeTexto && !d->pergunta)
         return true;

@@ -173,6 +173,8 @@ private:
     std::vector<TAlvo> Alvos(const QString &nomes, const std::vector<Variant> &valores,
                              unsigned opcoes) const;
     bool Serve(int slot, const TAlvo &alvo) const;
+    bool ServemTodos(int slot, const std::vector<TAlvo> &alvos) const;
+    bool PassaDigitado(int slot) const;
     int SlotAtual() const;
     int SlotDa(int linha) const;
     int LinhaDo(int slot) const;
