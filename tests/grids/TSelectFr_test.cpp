@@ -301,12 +301,18 @@ TEST_F(TSelectFrTest, NearTheBottomItOpensAboveTheEdit)
     EXPECT_LT(fr->geometry().bottom(), busca->y()) << "the edit stays in sight";
 }
 
-TEST_F(TSelectFrTest, ItFitsExactlyOrGoesAbove)
+TEST_F(TSelectFrTest, ItFitsToTheLastPixelOrGoesAbove)
 {
-    tela.resize(600, 30 + 21 + 1 + fr->height());
+    busca->setGeometry(20, 300, 200, 21);
+    tela.resize(600, 322 + fr->height());
     Mostrar();
     fr->Exibir();
-    EXPECT_EQ(fr->y(), 52) << "the last pixel is still room";
+    EXPECT_EQ(fr->y(), 322);
+    fr->hide();
+    fr->Posicionado = false;
+    tela.resize(600, tela.height() - 1);
+    fr->Exibir();
+    EXPECT_EQ(fr->y(), 322 - fr->height() - 21 - 10);
 }
 
 TEST_F(TSelectFrTest, WithoutRoomOnEitherSideItStartsAtTheTop)
