@@ -1,6 +1,7 @@
 #include "demo/UBancoComercial.h"
 
 #include "demo/UClientesDeExemplo.h"
+#include "demo/UContasDeExemplo.h"
 #include "demo/UDadosDeExemplo.h"
 #include "demo/UGuiaDeCeps.h"
 #include "platform/database/ConexD.h"
@@ -48,6 +49,8 @@ void ExecutarRoteiro(TSQLConnection &conexao)
 constexpr char EsquemaDoGuia[] = "schema-guia.sql";
 constexpr char EsquemaDosClientes[] = "schema-clientes.sql";
 constexpr char EsquemaDoCadastro[] = "schema-cadastro.sql";
+constexpr char EsquemaDasVendas[] = "schema-vendas.sql";
+constexpr char EsquemaDasContas[] = "schema-contas.sql";
 
 constexpr TPasso Passos[] = {
     {"select 1 from rdb$relations where rdb$relation_name = 'CEP_UF'",
@@ -58,6 +61,11 @@ constexpr TPasso Passos[] = {
     {"select 1 from rdb$relation_fields where rdb$relation_name = 'PRODUTOS' and "
      "rdb$field_name = 'CADASTRO'",
      &ExecutarRoteiro<EsquemaDoCadastro>},
+    {"select 1 from rdb$relations where rdb$relation_name = 'VENDAS'",
+     &ExecutarRoteiro<EsquemaDasVendas>},
+    {"select 1 from rdb$relations where rdb$relation_name = 'CONTAS'",
+     &ExecutarRoteiro<EsquemaDasContas>},
+    {"select first 1 1 from contas", &InserirPlanoDeContas},
 };
 
 bool Feito(TSQLConnection &conexao, const TPasso &passo)

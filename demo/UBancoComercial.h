@@ -15,10 +15,10 @@ namespace comercial
  * with one clear message; a database that could not be made whole is not left behind.
  *
  * A database of an earlier version of the program is brought up first: it gains what it lacks (the
- * postal-code guide with its states, the clients, the products' bar codes and days of registration)
- * and keeps everything that it holds. Each step is done whole or not at all; one that failed is
- * tried again at the next opening. Two workstations may do it at the same time. Sample clients go
- * into new databases only.
+ * postal-code guide with its states, the clients, the products' bar codes and days of registration,
+ * the sales, the chart of accounts) and keeps everything that it holds. Each step is done whole or
+ * not at all; one that failed is tried again at the next opening. Two workstations may do it at the
+ * same time. Sample clients, sales and balances go into new databases only.
  */
 void AbrirBancoComercial(ficha::TSQLConnection &conexao, const QString &endereco);
 

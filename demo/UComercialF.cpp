@@ -4,7 +4,9 @@
 #include "demo/UClientesF.h"
 #include "demo/UGruposF.h"
 #include "demo/UMostruarioF.h"
+#include "demo/UPlanoDeContasF.h"
 #include "demo/UProdutosF.h"
+#include "demo/UVendasF.h"
 #include "platform/database/ConexD.h"
 #include "platform/support/Mensagens.h"
 #include "platform/toolkit/TAction.h"
@@ -50,9 +52,13 @@ void TComercialF::MontarMenus()
     acao(cadastros, QStringLiteral("&Produtos"), Qt::Key_F3, [this] { Abrir<TProdutosF>(); });
     acao(cadastros, QStringLiteral("C&lientes"), Qt::Key_F4, [this] { Abrir<TClientesF>(); });
     acao(cadastros, QStringLiteral("&CEPs"), Qt::Key_F7, [this] { Abrir<TCepsF>(); });
+    acao(cadastros, QStringLiteral("Pl&ano de contas"), Qt::Key_F6,
+         [this] { Abrir<TPlanoDeContasF>(); });
     acao(cadastros, QStringLiteral("&Mostruário"), Qt::Key_F9, [this] { Abrir<TMostruarioF>(); });
     cadastros->addSeparator();
     acao(cadastros, QStringLiteral("&Sair"), Qt::ALT | Qt::Key_F4, [this] { Close(); });
+    QMenu *movimento = AcrescentarMenu(QStringLiteral("&Movimento"));
+    acao(movimento, QStringLiteral("&Vendas"), Qt::Key_F5, [this] { Abrir<TVendasF>(); });
 }
 
 } // namespace comercial

@@ -1,6 +1,8 @@
 #include "demo/UDadosDeExemplo.h"
 
 #include "demo/UClientesDeExemplo.h"
+#include "demo/UContasDeExemplo.h"
+#include "demo/UVendasDeExemplo.h"
 #include "platform/core/Documentos.h"
 #include "platform/core/Relogio.h"
 #include "platform/database/TSQLConnection.h"
@@ -113,6 +115,8 @@ void InserirDadosDeExemplo(TSQLConnection &conexao, const QString &pastaDasFotos
         conexao.Executar(QStringLiteral("set generator grupos_cod_gen to %1").arg(grupo));
         conexao.Executar(QStringLiteral("set generator produtos_cod_gen to %1").arg(produto));
         InserirClientesDeExemplo(conexao, pastaDasFotos);
+        InserirVendasDeExemplo(conexao);
+        InserirSaldosDeExemplo(conexao);
     });
 }
 

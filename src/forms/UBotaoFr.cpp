@@ -22,8 +22,8 @@ void TBotaoFr::PegarComponentes()
 
 bool TBotaoFr::event(QEvent *evento)
 {
-    // A label that gets another picture asks its parent for room.
-    if (evento->type() == QEvent::LayoutRequest && Image1)
+    // A label that gets another picture asks its parent for room, once it is shown.
+    if ((evento->type() == QEvent::LayoutRequest || evento->type() == QEvent::Show) && Image1)
         Image1->adjustSize();
     return TBasFr::event(evento);
 }

@@ -94,6 +94,10 @@ TEST_F(BancoComercialTest, AnOlderDatabaseGainsWhatItLacksAndKeepsWhatItHolds)
     EXPECT_EQ(Numero(conexao, QStringLiteral("select count(*) from cep_uf")), 27);
     EXPECT_EQ(Numero(conexao, QStringLiteral("select count(*) from clientes")), 0)
         << "nobody is invented in a database that is in use";
+    EXPECT_EQ(Numero(conexao, QStringLiteral("select count(*) from vendas")), 0);
+    EXPECT_EQ(Numero(conexao, QStringLiteral("select count(*) from contas")), 58);
+    EXPECT_EQ(Numero(conexao, QStringLiteral("select count(*) from contas where saldo <> 0")), 0)
+        << "nor is anything booked";
     conexao.Executar(
         QStringLiteral("insert into clientes (clientes_cod, nome, cpf, grupos_cod) values "
                        "(gen_id(clientes_cod_gen, 1), 'Ana', '52998224725', 1)"));
@@ -200,4 +204,39 @@ TEST_F(BancoComercialTest, TheSampleClientsArePlausible)
                            EXPECT_TRUE(QFile::exists(foto)) << foto.toStdString();
                        }),
               2);
+}
+
+TEST_F(BancoComercialTest, TheSampleSalesAndBalancesArePlausible)
+{
+    TSQLConnection conexao;
+    AbrirBancoComercial(conexao, Arquivo("novo.fdb"));
+    const auto numero = [&](const char *sql) { return Numero(conexao, QString::fromUtf8(sql)); };
+    EXPECT_EQ(numero("select count(*) from vendas"), 3000);
+    EXPECT_EQ(numero("select gen_id(vendas_cod_gen, 0) from rdb$database"), 3000);
+    EXPECT_EQ(numero("select count(*) from vendas v where not exists (select 1 from vendas_itens i "
+                     "where i.vendas_cod = v.vendas_cod)"),
+              0);
+    EXPECT_EQ(numero("select count(*) from vendas where data > current_date or vencimento <= data"),
+              0);
+    EXPECT_EQ(numero("select count(*) from vendas v where not exists (select 1 from clientes c "
+                     "where c.nome = v.cliente)"),
+              0);
+    EXPECT_GT(numero("select count(distinct cliente) from vendas"), 250);
+    EXPECT_EQ(numero("select count(*) from vendas_itens i left join produtos p on p.produtos_cod = "
+                     "i.produtos_cod where p.descricao is distinct from i.descricao or i.preco <> "
+                     "p.preco or i.quantidade < 1"),
+              0);
+    EXPECT_EQ(numero("select count(distinct produtos_cod) from vendas_itens"), 256);
+    EXPECT_EQ(ValorDoBanco(conexao, QStringLiteral("select sum(saldo) from contas where codigo "
+                                                   "starting '1.'"))
+                  .AsFloat(),
+              308300);
+    EXPECT_EQ(ValorDoBanco(conexao, QStringLiteral("select sum(saldo) from contas where codigo "
+                                                   "starting '2.'"))
+                  .AsFloat(),
+              308300);
+    EXPECT_EQ(numero("select count(*) from contas c where position('.' in codigo) > 0 and not "
+                     "exists (select 1 from contas a where c.codigo starting a.codigo || '.')"),
+              0)
+        << "every account stands under another one";
 }

@@ -241,6 +241,17 @@ TEST_F(TBotaoFrTest, TheLabelFollowsItsPicture)
     EXPECT_EQ(botao->Image1->size(), QSize(40, 30));
 }
 
+TEST_F(TBotaoFrTest, APictureThatWasPutInBeforeTheFrameIsShownIsFollowedToo)
+{
+    auto *botao = Criar<TBotaoFr>(&janela);
+    QPixmap outra(20, 20);
+    outra.fill(Qt::red);
+    botao->Image1->setPixmap(outra);
+    janela.show();
+    Girar();
+    EXPECT_EQ(botao->Image1->size(), QSize(20, 20));
+}
+
 TEST_F(TBotaoFrTest, ALeftClickOnThePictureIsAnnouncedOnce)
 {
     auto *botao = Mostrado<TBotaoFr>();
