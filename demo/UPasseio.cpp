@@ -73,6 +73,7 @@ void TPasseio::Executar()
     FiltroDaLista();
     PerguntaAoFechar();
     Clientes();
+    Listas();
     Mostruario();
     SegundoPrograma();
     MostrarBanco("Depois");

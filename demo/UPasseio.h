@@ -57,6 +57,13 @@ private:
     void FotoDoCliente();
     /** The address that is shown, in one line. */
     QString Endereco() const;
+    void Listas();
+    void Vendas();
+    void OrdemDasVendas();
+    void ProdutoDasVendas();
+    void PesquisaDeVendas();
+    void DialogosDaVenda();
+    void PlanoDeContas();
     void Mostruario();
     void FaixaDeDatas();
     void Predefinicoes(ficha::TDatasSelectF &dialogo);
