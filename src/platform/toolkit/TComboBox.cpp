@@ -339,6 +339,11 @@ bool TComboBox::eventFilter(QObject *alvo, QEvent *evento)
     if (evento->type() == QEvent::KeyPress && listaPreparada && alvo == view() &&
         TeclaNaLista(static_cast<QKeyEvent *>(evento)))
         return true;
+    // What a dead key or an input method composes belongs to the edit too.
+    if (evento->type() == QEvent::InputMethod && listaPreparada && alvo == view() && isEditable()) {
+        QCoreApplication::sendEvent(this, evento);
+        return true;
+    }
     return QComboBox::eventFilter(alvo, evento);
 }
 
