@@ -22,9 +22,9 @@ class TToolButton;
  *
  * A path without a file, or of another extension, is an empty white box. The file is read once for
  * each of its versions and each size of the box; what another program writes into it is seen at
- * the next repaint. A damaged file raises EImagemInvalida once for each version of it: from
- * SetValor, or, where the box could not be seen then, to the host's error report when it is
- * painted. The path stays the value all the same.
+ * the next repaint. A damaged file raises EImagemInvalida once for each version of it, and again
+ * when it comes back after another value: from SetValor, or, where the box could not be seen then,
+ * to the host's error report when it is painted. The path stays the value all the same.
  */
 class TImgBasFr : public TDBControlBasFr
 {

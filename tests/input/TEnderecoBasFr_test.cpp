@@ -14,6 +14,8 @@
 
 #include <QAbstractItemView>
 #include <QElapsedTimer>
+#include <QInputMethodEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -205,6 +207,16 @@ TEST_F(TEnderecoBasFrTest, Layout)
         EXPECT_FALSE(timer->isActive());
     }
     EXPECT_EQ(fr->AguardePanel->fontInfo().pixelSize(), 21);
+    const auto rotula = [this](const char *nome, const QWidget *entrada) {
+        const auto *rotulo = fr->findChild<QLabel *>(QString::fromLatin1(nome));
+        ASSERT_NE(rotulo, nullptr) << nome;
+        EXPECT_EQ(rotulo->buddy(), entrada) << nome;
+    };
+    rotula("CEPLabel", fr->CEPMaskEdit);
+    rotula("UFLabel", fr->UFComboBox);
+    rotula("MunLabel", fr->MunComboBox);
+    rotula("BaiLabel", fr->BaiComboBox);
+    rotula("LogrLabel", fr->LogrComboBox);
 }
 
 TEST_F(TEnderecoBasFrTest, TheTabKeyGoesThroughTheInputsInTheirOrder)
@@ -722,6 +734,10 @@ TEST_F(TEnderecoBasFrTest, AnotherTypedAddressIsReplacedOnlyWhenTheUserSaysSo)
                   "AL\r\n"
                   "Deseja substituir o endereço digitado\r\npelo do Guia de CEPs?")});
     EXPECT_EQ(Textos().mid(1, 5), Arapiraca.mid(1, 4) << QStringLiteral("12")) << "no keeps it";
+    QTest::qWait(250);
+    EXPECT_EQ(Foco(), fr->NumLabeledEdit) << "the number is next whatever the answer";
+    EXPECT_EQ(fr->NumLabeledEdit->selectedText(), QStringLiteral("12"))
+        << "entered as by Tab: what is typed replaces it";
     resposta = true;
     EntrarCep("71020631");
     EXPECT_EQ(perguntas.size(), 2);
@@ -809,6 +825,10 @@ TEST_F(TEnderecoBasFrTest, AStreetOfNoListOffersNothing)
     fr->LogrComboBox->setFocus();
     Tab(fr->LogrComboBox);
     EXPECT_EQ(fr->CEPMaskEdit->GetText(), QString()) << "nor one without a CEP";
+    fr->CEPMaskEdit->SetText(QStringLiteral("01045001"));
+    fr->LogrComboBox->setFocus();
+    Tab(fr->LogrComboBox);
+    EXPECT_EQ(fr->CEPMaskEdit->GetText(), QStringLiteral("01045001"));
     EXPECT_EQ(perguntas, QStringList());
 }
 
@@ -1051,6 +1071,201 @@ TEST_F(TEnderecoBasFrTest, TheNumberTimerLeavesTheFocusWhereTheFrameIsNotInView)
     QTest::qWait(250);
     fr->show();
     EXPECT_EQ(Foco(), antes);
+}
+
+TEST_F(TEnderecoBasFrTest, AListBelowStandsStillWithoutTheCascadeAndBeforeAnInputWasEntered)
+{
+    Abrir();
+    fr->PreencherBaiComboBox(Mun("Rio de Janeiro"));
+    fr->PreencherLogrComboBox(BaiDe("Natal", "Quintas"));
+    const QStringList bairros = Itens(fr->BaiComboBox), ruas = Itens(fr->LogrComboBox);
+    const auto pegar = [&](const char *quando) {
+        fr->MunPegar(QStringLiteral("Rio Branco"));
+        EXPECT_EQ(Itens(fr->BaiComboBox), bairros) << quando;
+        fr->BaiPegar(QStringLiteral("Centro"));
+        EXPECT_EQ(Itens(fr->LogrComboBox), ruas) << quando;
+    };
+    pegar("before an input was entered");
+    fr->Cascatear = false;
+    fr->Tocado = true;
+    pegar("without the cascade");
+    fr->BaiComboBox->setFocus();
+    EXPECT_EQ(Itens(fr->BaiComboBox), bairros) << "nor does entering a list read it";
+    fr->LogrComboBox->setFocus();
+    EXPECT_EQ(Itens(fr->LogrComboBox), ruas);
+    fr->Cascatear = true;
+    antes->setFocus();
+    fr->LogrComboBox->setFocus();
+    EXPECT_NE(Itens(fr->LogrComboBox), ruas);
+}
+
+TEST_F(TEnderecoBasFrTest, ACepThatTheFrameItselfWritesIsNotTreatedOnLeavingItUntilItIsEnteredAgain)
+{
+    Inserir();
+    fr->CEPMaskEdit->setFocus();
+    EXPECT_TRUE(fr->TratarSaidaCEP);
+    fr->TratarSaidaCEP = false;
+    Digitar(fr->CEPMaskEdit, QStringLiteral("123"));
+    Tab(fr->CEPMaskEdit);
+    EXPECT_EQ(mensagens, QStringList());
+    EXPECT_EQ(Foco(), fr->UFComboBox);
+    fr->CEPMaskEdit->setFocus();
+    EXPECT_TRUE(fr->TratarSaidaCEP) << "entering switches it on";
+    Tab(fr->CEPMaskEdit);
+    EXPECT_EQ(mensagens.size(), 1);
+}
+
+TEST_F(TEnderecoBasFrTest, TheFocusComesBackToTheCepAlsoWhenTheMessageTookItElsewhere)
+{
+    Inserir();
+    aoMostrarErro = [this] {
+        fr->CEPMaskEdit->Clear();
+        antes->setFocus();
+    };
+    EntrarCep("123");
+    EXPECT_EQ(Foco(), antes);
+    QTest::qWait(250);
+    EXPECT_EQ(Foco(), fr->CEPMaskEdit);
+    EXPECT_EQ(mensagens.size(), 1);
+    EntrarCep("123");
+    EXPECT_TRUE(fr->CEPFocusTimer->isActive());
+    fr->Zerar();
+    EXPECT_FALSE(fr->CEPFocusTimer->isActive()) << "another record is on the screen";
+}
+
+TEST_F(TEnderecoBasFrTest, NeitherTimerSendsTheKeysToAnInputBehindAHiddenPage)
+{
+    QWidget pagina(&janela);
+    pagina.setGeometry(0, 30, 540, 200);
+    Inserir();
+    fr->setParent(&pagina);
+    fr->show();
+    pagina.show();
+    for (QTimer *timer : {fr->NumFocusTimer, fr->CEPFocusTimer}) {
+        pagina.show();
+        timer->start();
+        pagina.hide();
+        depois->setFocus();
+        QTest::qWait(250);
+        EXPECT_EQ(Foco(), depois) << timer->objectName().toStdString();
+        EXPECT_FALSE(timer->isActive());
+        pagina.show();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(Foco(), depois) << "nor when the page comes back";
+    }
+    delete std::exchange(fr, nullptr);
+}
+
+TEST_F(TEnderecoBasFrTest, AStreetOffersItsCepInEveryStateAndWithoutTheCascadeToo)
+{
+    Abrir();
+    fr->PreencherLogrComboBox(BaiDe("São Paulo", "República"));
+    fr->Cascatear = false;
+    for (const int estado : {int(dsInactive), int(dsBrowse), int(dsEdit), int(dsInsert)}) {
+        fr->PegarState(estado);
+        fr->CEPMaskEdit->Clear();
+        fr->LogrComboBox->SetItemIndex(0);
+        fr->LogrComboBox->setFocus();
+        Tab(fr->LogrComboBox);
+        EXPECT_EQ(fr->CEPMaskEdit->GetText(), QStringLiteral("01045001")) << estado;
+    }
+}
+
+TEST_F(TEnderecoBasFrTest, OnlyTheFirstEightCharactersOfTheGuidesCepCount)
+{
+    banco->Executar(QStringLiteral("drop view logr"));
+    banco->Executar(QStringLiteral("alter table cep_logr alter cep type varchar(9)"));
+    banco->Executar(QStringLiteral("update cep_logr set cep='573038079' where logr_cod=14"));
+    Inserir();
+    fr->PreencherLogrComboBox(BaiDe("Arapiraca", "Olho D'Água dos Cazuzinhas"));
+    fr->LogrComboBox->SetItemIndex(0);
+    fr->LogrComboBox->setFocus();
+    Tab(fr->LogrComboBox);
+    EXPECT_EQ(fr->CEPMaskEdit->GetText(), QStringLiteral("57303807"));
+    fr->LogrComboBox->setFocus();
+    Tab(fr->LogrComboBox);
+    EXPECT_EQ(perguntas, QStringList()) << "it is the same one";
+}
+
+TEST_F(TEnderecoBasFrTest, AnInputEnteredByEnterIsTypedOver)
+{
+    Inserir();
+    for (TComboBox *lista : {fr->MunComboBox, fr->BaiComboBox, fr->LogrComboBox})
+        lista->SetText(QStringLiteral("VELHO"));
+    fr->NumLabeledEdit->SetText(QStringLiteral("VELHO"));
+    fr->ComplLabeledEdit->SetText(QStringLiteral("VELHO"));
+    fr->UFComboBox->setFocus();
+    for (TComboBox *lista : {fr->MunComboBox, fr->BaiComboBox, fr->LogrComboBox}) {
+        Teclar(Foco(), Qt::Key_Return);
+        EXPECT_EQ(lista->lineEdit()->selectedText(), QStringLiteral("VELHO"))
+            << lista->objectName().toStdString();
+    }
+    for (QLineEdit *edit : {fr->NumLabeledEdit, fr->ComplLabeledEdit}) {
+        Teclar(Foco(), Qt::Key_Return);
+        EXPECT_EQ(edit->selectedText(), QStringLiteral("VELHO"));
+    }
+}
+
+TEST_F(TEnderecoBasFrTest, EscClosesTheListAndKeepsWhatWasTypedReadyToGoOn)
+{
+    Inserir();
+    DigitarEm(fr->MunComboBox, "sa");
+    ASSERT_TRUE(fr->MunComboBox->DroppedDown());
+    Teclar(fr->MunComboBox->view(), Qt::Key_Escape);
+    EXPECT_FALSE(fr->MunComboBox->DroppedDown());
+    EXPECT_EQ(Foco(), fr->MunComboBox);
+    EXPECT_EQ(fr->MunComboBox->GetText(), QStringLiteral("SANTOS"));
+    Teclar(fr->MunComboBox, u'b');
+    EXPECT_EQ(fr->MunComboBox->GetText(), QStringLiteral("SAB"))
+        << "the completion is typed over, nothing is lost";
+}
+
+TEST_F(TEnderecoBasFrTest, ALetterOfADeadKeyIsTypedIntoTheOpenListWithoutItsAccent)
+{
+    Inserir();
+    fr->LogrComboBox->AddItem(QStringLiteral("QUALQUER"), 1);
+    const auto compor = [](QWidget *alvo, const QString &texto) {
+        QInputMethodEvent composto;
+        composto.setCommitString(texto);
+        QApplication::sendEvent(alvo, &composto);
+        QCoreApplication::processEvents();
+    };
+    fr->LogrComboBox->setFocus(Qt::TabFocusReason);
+    compor(fr->LogrComboBox, QStringLiteral("á"));
+    EXPECT_EQ(fr->LogrComboBox->GetText(), QStringLiteral("A"));
+    ASSERT_TRUE(fr->LogrComboBox->DroppedDown());
+    compor(Foco(), QStringLiteral("ç"));
+    EXPECT_EQ(fr->LogrComboBox->GetText(), QStringLiteral("AC"));
+    compor(fr->LogrComboBox->view(), QStringLiteral("ã"));
+    EXPECT_EQ(fr->LogrComboBox->GetText(), QStringLiteral("ACA"));
+}
+
+TEST_F(TEnderecoBasFrTest, TheOpenListIsAsWideAsItsLongestItem)
+{
+    Inserir();
+    const QString longo(60, u'M');
+    fr->MunComboBox->setFocus();
+    fr->MunComboBox->AddItem(longo, 1);
+    fr->MunComboBox->SetDroppedDown(true);
+    const QAbstractItemView *lista = fr->MunComboBox->view();
+    EXPECT_GE(lista->width(), lista->fontMetrics().horizontalAdvance(longo));
+    fr->MunComboBox->SetDroppedDown(false);
+}
+
+TEST_F(TEnderecoBasFrTest, AStateWithoutMunicipiosEmptiesTheBairrosToo)
+{
+    banco->Executar(QStringLiteral("insert into cep_uf (uf_cod, sigla) values ('~', 'ZZ')"));
+    Inserir();
+    EXPECT_GT(fr->BaiComboBox->Count(), 0);
+    SisD().UFPadrao = QStringLiteral(" ZZ ");
+    fr->Zerar();
+    EXPECT_EQ(fr->UFComboBox->GetText(), QStringLiteral("ZZ"));
+    EXPECT_EQ(fr->MunComboBox->Count() + fr->BaiComboBox->Count(), 0);
+    EXPECT_EQ(fr->MunComboBox->GetText(), QString());
+    SisD().UFPadrao = QStringLiteral("RJ");
+    SisD().MunicipioPadrao = QStringLiteral(" Rio de Janeiro ");
+    fr->Zerar();
+    EXPECT_EQ(fr->MunComboBox->GetText(), QStringLiteral("RIO DE JANEIRO"));
 }
 
 TEST_F(TEnderecoBasFrTest, TimersDoNotOutliveTheFrame)
@@ -1317,6 +1532,25 @@ TEST_F(TEnderecoBasFrTest, ABairroChosenWhileStreetsAreReadIsTheOneThatCounts)
     EXPECT_FALSE(fr->AguardePanel->isVisible());
 }
 
+TEST_F(TEnderecoBasFrTest, ABairroChosenWhileTheStreetsOfACepAreShownIsTheOneThatCounts)
+{
+    Inserir();
+    fr->Tocado = true;
+    const auto ligacao = QObject::connect(fr->LogrQ, &TDataSet::AfterOpen, fr, [this] {
+        if (fr->LogrQ->Codigo() != QString::number(BaiDe("São Paulo", "República")))
+            QTimer::singleShot(0, fr, [this] {
+                fr->PreencherBaiComboBox(Mun("São Paulo"));
+                fr->BaiPegar(QStringLiteral("República"));
+            });
+    });
+    fr->CEPMaskEdit->SetText(QStringLiteral("57303807"));
+    fr->PreencheEnderPeloCep();
+    QObject::disconnect(ligacao);
+    EXPECT_EQ(fr->BaiComboBox->GetText(), QStringLiteral("REPÚBLICA"));
+    EXPECT_EQ(Itens(fr->LogrComboBox), QStringList{QStringLiteral("1=PRAÇA DA REPÚBLICA")});
+    EXPECT_EQ(fr->LogrComboBox->GetText(), QString()) << "no street of another bairro";
+}
+
 TEST_F(TEnderecoBasFrTest, ACepTypedWhileAnotherIsLookedUpIsTheOneThatCounts)
 {
     Inserir();
@@ -1375,6 +1609,12 @@ TEST_F(TEnderecoBasFrTest, TypingStartsAnAlterationAndTheTextsSurviveIt)
     EXPECT_EQ(Textos(), (QStringList{QString(), QStringLiteral("SP"), QStringLiteral("SÃO PAULO"),
                                      QStringLiteral("CENTRO"), QStringLiteral("RUA UM"),
                                      QStringLiteral("12"), QStringLiteral("DO BANCO")}));
+    tabela->AltFim();
+    fr->NumLabeledEdit->SetText(QStringLiteral("13"));
+    fr->NumLabeledEdit->setCursorPosition(1);
+    Digitar(fr->NumLabeledEdit, QStringLiteral("7b"));
+    EXPECT_EQ(fr->NumLabeledEdit->GetText(), QStringLiteral("17B3"))
+        << "the caret stays where it was typed";
     tabela->AltFim();
     DigitarEm(fr->MunComboBox, "san");
     EXPECT_EQ(tabela->Status, TStatus::Alterando);

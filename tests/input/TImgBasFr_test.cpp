@@ -388,6 +388,8 @@ TEST_F(TImgBasFrTest, ADamagedFileReachesTheCallerOfTheSetterOnceAndLeavesTheBox
     EXPECT_EQ(fr->leituras, leituras);
     EXPECT_TRUE(Branca(fr));
     EXPECT_EQ(erros, QStringList());
+    fr->SetValor(Null);
+    EXPECT_THROW(fr->SetValor(ruim), EImagemInvalida) << "met again after another value";
 }
 
 TEST_F(TImgBasFrTest, AFileDamagedWhileItIsShownIsReportedOncePerVersionAndTheScreenGoesOn)
@@ -538,6 +540,10 @@ TEST_F(TImgBasFrTest, APathLongerThanItsColumnIsRefused)
         << qPrintable(avisos[0]);
     EXPECT_EQ(tela.pedidos, 0);
     EXPECT_EQ(fr->GetValor(), Variant(u""));
+    Escolher(QStringLiteral("x"));
+    Clicar(fr->ToolButton1);
+    EXPECT_EQ(avisos.size(), 1) << "one that fills it is taken";
+    EXPECT_EQ(fr->GetValor(), Variant(u"x"));
 }
 
 TEST_F(TImgBasFrTest, WhereTheAlterationIsRefusedTheStoredPictureStays)

@@ -101,6 +101,10 @@ TEST_F(TZoomBasFTest, APictureLargerThanTheScreenIsScrolledInAFormThatFitsOnIt)
                          Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(zoom->Image1, &move);
         EXPECT_EQ(Rolagem()->verticalScrollBar()->value(), antes + 40) << "by dragging";
+        QMouseEvent segue(QEvent::MouseMove, QPointF(onde), QPointF(tela100 - QPoint(0, 10)),
+                          Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(zoom->Image1, &segue);
+        EXPECT_EQ(Rolagem()->verticalScrollBar()->value(), antes + 50) << "step by step";
         QTest::mouseRelease(zoom->Image1, Qt::LeftButton);
         Rolagem()->verticalScrollBar()->setValue(100'000);
         EXPECT_EQ(Rolagem()->verticalScrollBar()->value(), 2500 - Rolagem()->viewport()->height());
