@@ -51,6 +51,7 @@ constexpr char EsquemaDosClientes[] = "schema-clientes.sql";
 constexpr char EsquemaDoCadastro[] = "schema-cadastro.sql";
 constexpr char EsquemaDasVendas[] = "schema-vendas.sql";
 constexpr char EsquemaDasContas[] = "schema-contas.sql";
+constexpr char EsquemaDoCredito[] = "schema-credito.sql";
 
 constexpr TPasso Passos[] = {
     {"select 1 from rdb$relations where rdb$relation_name = 'CEP_UF'",
@@ -66,6 +67,9 @@ constexpr TPasso Passos[] = {
     {"select 1 from rdb$relations where rdb$relation_name = 'CONTAS'",
      &ExecutarRoteiro<EsquemaDasContas>},
     {"select first 1 1 from contas", &InserirPlanoDeContas},
+    {"select 1 from rdb$relation_fields where rdb$relation_name = 'CLIENTES' and "
+     "rdb$field_name = 'ATIVO'",
+     &ExecutarRoteiro<EsquemaDoCredito>},
 };
 
 bool Feito(TSQLConnection &conexao, const TPasso &passo)

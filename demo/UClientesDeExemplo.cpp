@@ -2,7 +2,9 @@
 
 #include "platform/core/Documentos.h"
 #include "platform/core/Erros.h"
+#include "platform/core/Relogio.h"
 #include "platform/database/ConexD.h"
+#include "platform/support/Datas.h"
 #include "platform/support/Textos.h"
 
 #include <QDate>
@@ -176,6 +178,14 @@ TCliente Empresa(int i)
     return c;
 }
 
+/** Reais; every ninth one pays cash. */
+int Limite(bool empresa, int codigo)
+{
+    if (codigo % 9 == 0)
+        return 0;
+    return empresa ? 1000 + 500 * (codigo * 37 % 40) : 100 + 50 * (codigo * 37 % 40);
+}
+
 QString Sql(const TCliente &c, int codigo, const TEndereco &e, const QString &pastaDasFotos)
 {
     const QString documento = QuotedStr(c.Documento);
@@ -221,6 +231,10 @@ QString Sql(const TCliente &c, int codigo, const TEndereco &e, const QString &pa
         QuotedStr(foto),
         codigo % 10 ? QStringLiteral("null")
                     : QuotedStr(QStringLiteral("Prefere entregas pela manhã.\r\nAvisar antes.")),
+        // Registered in the course of the three years before the first run.
+        DataSQLFirebird(TDateTime(Hoje().Dias() - codigo * 53 % 1095)),
+        QString::number(Limite(c.Empresa, codigo)),
+        QuotedStr(codigo % 16 ? QStringLiteral("S") : QStringLiteral("N")),
     };
     return QStringLiteral("insert into clientes values (%1)")
         .arg(valores.join(QStringLiteral(", ")));

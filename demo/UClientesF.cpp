@@ -1,6 +1,7 @@
 #include "demo/UClientesF.h"
 
 #include "demo/UComboDeGrupos.h"
+#include "demo/UCriterios.h"
 #include "input/ULabeledEditTextoBasFr.h"
 #include "platform/edits/TCNPJEditBR.h"
 #include "platform/edits/TCPFEditBR.h"
@@ -9,6 +10,7 @@
 #include "platform/support/Mensagens.h"
 #include "platform/support/Textos.h"
 #include "platform/toolkit/Evento.h"
+#include "platform/toolkit/TCheckBox.h"
 #include "platform/toolkit/TComboBox.h"
 #include "platform/toolkit/TMaskEdit.h"
 #include "platform/toolkit/TRadioGroup.h"
@@ -45,14 +47,14 @@ QString OuNulo(bool tem, const QString &valor)
 
 void TClientesF::Atualizar()
 {
-    TTabLinearBasF::Atualizar();
+    TTabLinFiltroBasF::Atualizar();
     IndicarEstado();
 }
 
 bool TClientesF::AtivarAlteracao()
 {
     const QPointer<TClientesF> viva(this);
-    const bool ativou = TTabLinearBasF::AtivarAlteracao();
+    const bool ativou = TTabLinFiltroBasF::AtivarAlteracao();
     if (viva)
         IndicarEstado();
     return ativou;
@@ -62,7 +64,7 @@ bool TClientesF::AtivarInsersao()
 {
     const bool navegava = Tab->Status == TStatus::Ocioso;
     const QPointer<TClientesF> viva(this);
-    const bool ativou = TTabLinearBasF::AtivarInsersao();
+    const bool ativou = TTabLinFiltroBasF::AtivarInsersao();
     if (!viva || !navegava || Tab->Status != TStatus::Inserindo)
         return ativou;
     IndicarEstado();
@@ -73,17 +75,56 @@ bool TClientesF::AtivarInsersao()
 
 bool TClientesF::Inseriu()
 {
-    return NascimentoAceitavel() && TTabLinearBasF::Inseriu();
+    return NascimentoAceitavel() && TTabLinFiltroBasF::Inseriu();
 }
 
 bool TClientesF::Alterou()
 {
-    return NascimentoAceitavel() && TTabLinearBasF::Alterou();
+    return NascimentoAceitavel() && TTabLinFiltroBasF::Alterou();
+}
+
+/** The list's text, from what the filter panel holds. The day of birth comes as the digits that its
+ * input keeps: a bare mask edit knows no dates. */
+void TClientesF::PrepararSQL()
+{
+    TCriterios criterios;
+    criterios.JuntarGrupo(*FiltroGrupoFr, QStringLiteral("c.grupos_cod"));
+    criterios.JuntarNumero(*FiltroLimiteDeFr, QStringLiteral("c.limite"), QStringLiteral(">="),
+                           QStringLiteral("com limite a partir de R$ "));
+    criterios.JuntarNumero(*FiltroLimiteAteFr, QStringLiteral("c.limite"), QStringLiteral("<="),
+                           QStringLiteral("com limite até R$ "));
+    criterios.JuntarSituacao(*FiltroSituacaoGroup, QStringLiteral("c.ativo"));
+    criterios.JuntarCadastro(*FiltroCadastroFr, QStringLiteral("c.cadastro"));
+    FiltroAtivo = !criterios.Vazio();
+    FiltroStatusLabel->setText(criterios.Status(QStringLiteral("clientes")));
+    SQLQuery1->SetSQL(
+        QStringLiteral("select c.*, c.tipo_pess + 1 as opcao_pess, "
+                       "lpad(extract(day from c.nascimento), 2, '0') || "
+                       "lpad(extract(month from c.nascimento), 2, '0') || "
+                       "lpad(extract(year from c.nascimento), 4, '0') as digitos_nasc, "
+                       "c.mun || '/' || c.uf as cidade, "
+                       "trim(iif(c.ddd = '' or c.fone1 = '', '', '(' || c.ddd || ') ') || c.fone1) "
+                       "as telefone "
+                       "from clientes c ") +
+        criterios.Where() + QStringLiteral("order by c.nome"));
+}
+
+void TClientesF::ZerarFiltro()
+{
+    for (TOpcionalBasFr *fr : {static_cast<TOpcionalBasFr *>(FiltroGrupoFr),
+                               static_cast<TOpcionalBasFr *>(FiltroLimiteDeFr),
+                               static_cast<TOpcionalBasFr *>(FiltroLimiteAteFr)})
+        fr->AtivoCheckBox->setChecked(false);
+    FiltroGrupoFr->ComboBoxCodFr->Zerar();
+    FiltroLimiteDeFr->TNumEditBRBasFr1->Zerar();
+    FiltroLimiteAteFr->TNumEditBRBasFr1->Zerar();
+    FiltroSituacaoGroup->SetItemIndex(0);
+    FiltroCadastroFr->Zerar();
 }
 
 void TClientesF::PegarComponentes()
 {
-    TTabLinearBasF::PegarComponentes();
+    TTabLinFiltroBasF::PegarComponentes();
     Pegar(this, CodFr, "CodFr");
     Pegar(this, NomeFr, "NomeFr");
     Pegar(this, TipoPessFr, "TipoPessFr");
@@ -95,22 +136,21 @@ void TClientesF::PegarComponentes()
     Pegar(this, EnderecoFr, "EnderecoFr");
     Pegar(this, ContatoFr, "ContatoFr");
     Pegar(this, NotasFr, "NotasFr");
+    Pegar(this, LimiteFr, "LimiteFr");
+    Pegar(this, AtivoFr, "AtivoFr");
     Pegar(this, FotoFr, "FotoFr");
+    Pegar(this, FiltroGrupoFr, "FiltroGrupoFr");
+    Pegar(this, FiltroLimiteDeFr, "FiltroLimiteDeFr");
+    Pegar(this, FiltroLimiteAteFr, "FiltroLimiteAteFr");
+    Pegar(this, FiltroSituacaoGroup, "FiltroSituacaoGroup");
+    Pegar(this, FiltroCadastroFr, "FiltroCadastroFr");
 }
 
-/** The day of birth comes as the digits that its input keeps: a bare mask edit knows no dates. */
 void TClientesF::FormCreate(QObject *sender)
 {
-    SQLQuery1->SetSQL(QStringLiteral(
-        "select c.*, c.tipo_pess + 1 as opcao_pess, "
-        "lpad(extract(day from c.nascimento), 2, '0') || "
-        "lpad(extract(month from c.nascimento), 2, '0') || "
-        "lpad(extract(year from c.nascimento), 4, '0') as digitos_nasc, "
-        "c.mun || '/' || c.uf as cidade, "
-        "trim(iif(c.ddd = '' or c.fone1 = '', '', '(' || c.ddd || ') ') || c.fone1) as telefone "
-        "from clientes c order by c.nome"));
-    TTabLinearBasF::FormCreate(sender);
+    TTabLinFiltroBasF::FormCreate(sender);
     OferecerGrupos(GrupoFr, ActionList1);
+    FiltroGrupoFr->ComboBoxCodFr->SetSQLText(GrupoFr->GetSQLText());
     LigarDocumentos();
     LigarEntradas();
 }
@@ -161,6 +201,8 @@ void TClientesF::PegarLista()
         {"doc_c", u"Documento"},
         {"cidade", u"Cidade/UF"},
         {"telefone", u"Telefone"},
+        {"limite", u"Limite (R$)"},
+        {"cadastro", u"Cadastro"},
         {"nome_menor", u"Nome reduzido"},
         {"cpf", u"CPF"},
         {"cnpj", u"CNPJ"},
@@ -173,6 +215,10 @@ void TClientesF::PegarLista()
     Tab->PegarCampo(q->FieldByName("doc_c"), 126, DocFr->CLabeledEditTextoBasFr);
     Tab->PegarCampo(q->FieldByName("cidade"), 180);
     Tab->PegarCampo(q->FieldByName("telefone"), 104);
+    TCampo *limite = Tab->PegarCampo(q->FieldByName("limite"), 80, LimiteFr);
+    limite->Tipo = 4;
+    limite->FormatoFloat = QStringLiteral("###,###,##0.00");
+    Tab->PegarCampo(q->FieldByName("cadastro"), 70);
 }
 
 /** An input whose column is not in the list. */
@@ -193,6 +239,7 @@ void TClientesF::PegarIdentificacao()
     PegarFora("doc_m", DocFr->MLabeledEditTextoBasFr);
     PegarFora("digitos_nasc", NascimentoFr->MaskEdit1);
     PegarFora("grupos_cod", GrupoFr);
+    PegarFora("ativo", AtivoFr);
     PegarFora("foto", FotoFr);
     PegarFora("notas", NotasFr);
 }
@@ -312,6 +359,8 @@ QList<TClientesF::TColuna> TClientesF::Colunas()
         coluna("pagina", Texto(ContatoFr->PaginaLabeledEdit)),
         coluna("foto", FotoFr->SQLString()),
         coluna("notas", NotasFr->SQLString()),
+        coluna("limite", LimiteFr->SQLString()),
+        coluna("ativo", AtivoFr->SQLString()),
     };
 }
 

@@ -1,9 +1,13 @@
 #pragma once
 
+#include "dates/UComboCodOpcionalFr.h"
 #include "dates/UDataBasFr.h"
-#include "forms/UTabLinearBasF.h"
+#include "dates/UDatasBasFr.h"
+#include "dates/UNumOpcionalFr.h"
+#include "forms/UTabLinFiltroBasF.h"
 #include "input/UCNPJEditBRBasFr.h"
 #include "input/UCPFEditBRBasFr.h"
+#include "input/UCheckBoxBasFr.h"
 #include "input/UComboBoxCodBasFr.h"
 #include "input/UContatoBasFr.h"
 #include "input/UDocBasFr.h"
@@ -11,8 +15,10 @@
 #include "input/UImgBasFr.h"
 #include "input/UMemoBasFr.h"
 #include "input/UNomeBasFr.h"
+#include "input/UNumEditBRBasFr.h"
 #include "input/UNumEditBRCodBasFr.h"
 #include "input/URadioGroupCodBasFr.h"
+#include "platform/toolkit/TRadioGroup.h"
 
 namespace comercial
 {
@@ -23,13 +29,16 @@ namespace comercial
  * typing in the plain ones starts an alteration here, and what a composite does beyond its inputs
  * (the defaults of a new record, the state that the address asks for) is told to it when the
  * screen's state changes.
+ *
+ * The filter panel chooses by group, by credit limit, by whether they may buy and by the days on
+ * which they were registered; the line above the list says in words what it shows.
  */
-class TClientesF : public ficha::TTabLinearBasF
+class TClientesF : public ficha::TTabLinFiltroBasF
 {
     Q_OBJECT
 
 public:
-    using TTabLinearBasF::TTabLinearBasF;
+    using TTabLinFiltroBasF::TTabLinFiltroBasF;
     QString NomeJanela() const override { return QStringLiteral("Clientes"); }
     void Atualizar() override;
     bool AtivarAlteracao() override;
@@ -38,6 +47,8 @@ public:
     bool Inseriu() override;
     /** A birth date that is none keeps the alteration open, unlike a refusal of a value frame. */
     bool Alterou() override;
+    void PrepararSQL() override;
+    void ZerarFiltro() override;
 
 protected:
     void PegarComponentes() override;
@@ -66,6 +77,12 @@ private:
     QString NascimentoSQL();
     QList<TColuna> Colunas();
 
+    ficha::TComboCodOpcionalFr *FiltroGrupoFr = nullptr;
+    ficha::TNumOpcionalFr *FiltroLimiteDeFr = nullptr;
+    ficha::TNumOpcionalFr *FiltroLimiteAteFr = nullptr;
+    ficha::TRadioGroup *FiltroSituacaoGroup = nullptr;
+    ficha::TDatasBasFr *FiltroCadastroFr = nullptr;
+
     ficha::TNumEditBRCodBasFr *CodFr = nullptr;
     ficha::TNomeBasFr *NomeFr = nullptr;
     ficha::TRadioGroupCodBasFr *TipoPessFr = nullptr;
@@ -77,6 +94,8 @@ private:
     ficha::TEnderecoBasFr *EnderecoFr = nullptr;
     ficha::TContatoBasFr *ContatoFr = nullptr;
     ficha::TMemoBasFr *NotasFr = nullptr;
+    ficha::TNumEditBRBasFr *LimiteFr = nullptr;
+    ficha::TCheckBoxBasFr *AtivoFr = nullptr;
     ficha::TImgBasFr *FotoFr = nullptr;
 };
 

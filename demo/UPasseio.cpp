@@ -41,6 +41,12 @@ QWidget *Alvo()
     QWidget *janela = QApplication::activeModalWidget();
     if (!janela)
         janela = QApplication::activeWindow();
+    // Without a display, nothing is activated in place of a combo box's list that closes by itself.
+    while (janela && !janela->isVisible() && janela->parentWidget()) {
+        janela = janela->parentWidget()->window();
+        janela->activateWindow();
+        QTest::qWait(1);
+    }
     if (!janela)
         throw EErro(QStringLiteral("nenhuma janela está ativa"));
     return janela->focusWidget() ? janela->focusWidget() : janela;

@@ -49,6 +49,7 @@ private:
     void FiltroDaLista();
     void PerguntaAoFechar();
     void Clientes();
+    void ClientesDeUmGrupo();
     void ClienteNovo();
     void CepPreencheOEndereco();
     void CepDeOutroEndereco();

@@ -4,6 +4,7 @@
 #include "dates/UDataOpcionalFr.h"
 #include "dates/UDatasBasFr.h"
 #include "dates/UDatasSelectF.h"
+#include "demo/UClientesF.h"
 #include "input/UCPFEditBRBasFr.h"
 #include "input/UEnderecoBasFr.h"
 #include "input/UImgBasFr.h"
@@ -20,6 +21,7 @@
 #include "platform/toolkit/TLabeledEdit.h"
 #include "platform/toolkit/TMaskEdit.h"
 #include "platform/toolkit/TRadioButton.h"
+#include "platform/toolkit/TStringGrid.h"
 #include "platform/toolkit/TToolBar.h"
 
 #include <QFileInfo>
@@ -48,6 +50,7 @@ void TPasseio::Clientes()
 {
     Tecla(Qt::Key_F4);
     Foto(QStringLiteral("clientes-lista"));
+    ClientesDeUmGrupo();
     Tecla(Qt::Key_Tab, Qt::ControlModifier);
     Foto(QStringLiteral("clientes-campos"));
     ClienteNovo();
@@ -65,6 +68,24 @@ void TPasseio::Clientes()
            "inserir um cliente");
     Foto(QStringLiteral("clientes-inserido"));
     Tecla(Qt::Key_F4, Qt::ControlModifier);
+}
+
+/** The group's name is typed and Enter applies the filter; "Liberar" shows everybody again. */
+void TPasseio::ClientesDeUmGrupo()
+{
+    auto *tela = qobject_cast<TClientesF *>(janela.FilhoAtivo());
+    Marcar(Achar<TComboCodOpcionalFr>("FiltroGrupoFr")->AtivoCheckBox);
+    Tecla(Qt::Key_Tab);
+    Digitar(QStringLiteral("Bebidas"));
+    Tecla(Qt::Key_Return);
+    Exigir(QString::number(tela->SQLQuery1->RecordCount()) ==
+               DoBanco(QStringLiteral("select count(*) from clientes c join grupos g on "
+                                      "g.grupos_cod = c.grupos_cod where g.descricao='Bebidas'")),
+           "mostrar os clientes de um grupo");
+    Foto(QStringLiteral("clientes-de-um-grupo"));
+    Clicar(tela->ToolBar4->findChild<TToolButton *>(QStringLiteral("ToolButton3")));
+    Exigir(!tela->FiltroAtivo && tela->SQLQuery1->RecordCount() == 320, "liberar o filtro");
+    tela->StringGrid1->setFocus();
 }
 
 /** A name, a CPF that is none and is refused, the right one, a birth date, a telephone. */

@@ -1,9 +1,9 @@
 #include "demo/UProdutosF.h"
 
 #include "demo/UComboDeGrupos.h"
+#include "demo/UCriterios.h"
 #include "platform/edits/TNumEditBR.h"
 #include "platform/toolkit/TCheckBox.h"
-#include "platform/toolkit/TComboBox.h"
 
 #include <QLabel>
 
@@ -14,64 +14,24 @@ namespace comercial
 
 FICHA_REGISTRAR(TProdutosF)
 
-namespace
-{
-
-enum TSituacao { Todos, Ativos, Inativos };
-
-} // namespace
-
 /** The list's text, from what the filter panel holds. */
 void TProdutosF::PrepararSQL()
 {
-    QStringList condicoes;
-    QStringList frases;
-    for (const TCriterio &criterio : Criterios()) {
-        condicoes << criterio.Onde;
-        frases << criterio.Frase;
-    }
-    FiltroAtivo = !condicoes.isEmpty();
-    FiltroStatusLabel->setText(FiltroAtivo ? QStringLiteral("Exibindo os produtos ") +
-                                                 frases.join(QStringLiteral(", "))
-                                           : QStringLiteral("Exibindo todos os produtos"));
-    const QString onde =
-        FiltroAtivo ? QStringLiteral("where ") + condicoes.join(QStringLiteral(" and ")) + u' '
-                    : QString();
+    TCriterios criterios;
+    criterios.JuntarGrupo(*FiltroGrupoFr, QStringLiteral("p.grupos_cod"));
+    criterios.JuntarNumero(*FiltroPrecoDeFr, QStringLiteral("p.preco"), QStringLiteral(">="),
+                           QStringLiteral("a partir de R$ "));
+    criterios.JuntarNumero(*FiltroPrecoAteFr, QStringLiteral("p.preco"), QStringLiteral("<="),
+                           QStringLiteral("até R$ "));
+    criterios.JuntarSituacao(*FiltroSituacaoGroup, QStringLiteral("p.ativo"));
+    criterios.JuntarCadastro(*FiltroCadastroFr, QStringLiteral("p.cadastro"));
+    FiltroAtivo = !criterios.Vazio();
+    FiltroStatusLabel->setText(criterios.Status(QStringLiteral("produtos")));
     SQLQuery1->SetSQL(
         QStringLiteral("select p.produtos_cod, p.descricao, p.grupos_cod, g.descricao as grupo, "
                        "p.preco, p.estoque, p.unidade, p.ativo, p.observacao, p.cod_barras, "
                        "p.cadastro from produtos p join grupos g on g.grupos_cod = p.grupos_cod ") +
-        onde + QStringLiteral("order by p.descricao"));
-}
-
-std::vector<TProdutosF::TCriterio> TProdutosF::Criterios()
-{
-    std::vector<TCriterio> criterios;
-    const TComboBoxCodBasFr *grupo = FiltroGrupoFr->ComboBoxCodFr;
-    if (FiltroGrupoFr->AtivoCheckBox->isChecked() && grupo->GetValor() != Variant(0)) {
-        criterios.push_back({QStringLiteral("p.grupos_cod=") + grupo->SQLString(),
-                             QStringLiteral("do grupo ") + grupo->ComboBox1->currentText()});
-    }
-    const auto preco = [&criterios](const TNumOpcionalFr &fr, const char *sinal,
-                                    const QString &frase) {
-        const TNumEditBRBasFr *numero = fr.TNumEditBRBasFr1;
-        if (fr.AtivoCheckBox->isChecked())
-            criterios.push_back(
-                {QStringLiteral("p.preco") + QLatin1String(sinal) + numero->SQLString(),
-                 frase + numero->NumEditBR1->text()});
-    };
-    preco(*FiltroPrecoDeFr, ">=", QStringLiteral("a partir de R$ "));
-    preco(*FiltroPrecoAteFr, "<=", QStringLiteral("até R$ "));
-    if (FiltroSituacaoGroup->GetItemIndex() == Ativos)
-        criterios.push_back({QStringLiteral("p.ativo='S'"), QStringLiteral("ativos")});
-    else if (FiltroSituacaoGroup->GetItemIndex() == Inativos)
-        criterios.push_back({QStringLiteral("p.ativo='N'"), QStringLiteral("inativos")});
-    const QString periodo = FiltroCadastroFr->WhereStr(QStringLiteral("p.cadastro"));
-    if (!periodo.isEmpty())
-        criterios.push_back(
-            {periodo, QStringLiteral("cadastro: ") +
-                          FiltroCadastroFr->FaixaString(QStringLiteral("dd/mm/yyyy"))});
-    return criterios;
+        criterios.Where() + QStringLiteral("order by p.descricao"));
 }
 
 void TProdutosF::ZerarFiltro()
@@ -83,7 +43,7 @@ void TProdutosF::ZerarFiltro()
     FiltroGrupoFr->ComboBoxCodFr->Zerar();
     FiltroPrecoDeFr->TNumEditBRBasFr1->Zerar();
     FiltroPrecoAteFr->TNumEditBRBasFr1->Zerar();
-    FiltroSituacaoGroup->SetItemIndex(Todos);
+    FiltroSituacaoGroup->SetItemIndex(0);
     FiltroCadastroFr->Zerar();
 }
 

@@ -42,12 +42,6 @@ protected:
     void AntesAlterar() override;
 
 private:
-    /** One condition of the filter and the words for it. */
-    struct TCriterio {
-        QString Onde;
-        QString Frase;
-    };
-    std::vector<TCriterio> Criterios();
     void Rotular();
 
     ficha::TComboCodOpcionalFr *FiltroGrupoFr = nullptr;

@@ -10,16 +10,19 @@
 #include "platform/edits/TCPFEditBR.h"
 #include "platform/edits/TFoneEditBR.h"
 #include "platform/edits/TMaskEditBR.h"
+#include "platform/edits/TNumEditBR.h"
 #include "platform/support/BancoApoio.h"
 #include "platform/support/SisD.h"
 #include "platform/toolkit/Layout.h"
 #include "platform/toolkit/Ocioso.h"
 #include "platform/toolkit/TAction.h"
+#include "platform/toolkit/TCheckBox.h"
 #include "platform/toolkit/TComboBox.h"
 #include "platform/toolkit/TMaskEdit.h"
 #include "platform/toolkit/TMemo.h"
 #include "platform/toolkit/TPageControl.h"
 #include "platform/toolkit/TRadioGroup.h"
+#include "platform/toolkit/TScrollBox.h"
 #include "platform/toolkit/TStringGrid.h"
 #include "platform/toolkit/TToolBar.h"
 #include "support/BancoTemp.h"
@@ -146,9 +149,33 @@ protected:
                                 .arg(codigo))
             .AsString();
     }
-    int Quantos()
+    int Quantos(const QString &onde = QStringLiteral("1=1"))
     {
-        return ValorDoBanco(conexao, QStringLiteral("select count(*) from clientes")).AsInteger();
+        return ValorDoBanco(conexao, QStringLiteral("select count(*) from clientes where ") + onde)
+            .AsInteger();
+    }
+    int NaLista() const { return tela->SQLQuery1->RecordCount(); }
+    QString Status() const { return tela->FiltroStatusLabel->text(); }
+    /** Ticks a criterion's box with the space bar and goes into its input. */
+    void LigarCriterio(const char *criterio)
+    {
+        auto *caixa =
+            Frame<QWidget>(criterio)->findChild<TCheckBox *>(QStringLiteral("AtivoCheckBox"));
+        caixa->setFocus();
+        Tecla(Qt::Key_Space);
+        ASSERT_TRUE(caixa->isChecked());
+        Tecla(Qt::Key_Tab);
+    }
+    /** Ticks the group, types its name and presses Enter. */
+    void FiltrarGrupo(const QString &nome)
+    {
+        LigarCriterio("FiltroGrupoFr");
+        Digitar(nome);
+        Tecla(Qt::Key_Return);
+    }
+    QString NomeMostrado() const
+    {
+        return Frame<TNomeBasFr>("NomeFr")->NomeLabeledEditTextoBasFr->AsString();
     }
     /** Every input of the screen, as it stands. */
     QStringList Entradas() const
@@ -159,6 +186,8 @@ protected:
                 textos << edit->objectName() + u'=' + edit->GetText();
             else if (const auto *lista = qobject_cast<const TComboBox *>(w))
                 textos << lista->objectName() + u'=' + lista->GetText();
+            else if (const auto *caixa = qobject_cast<const TCheckBox *>(w))
+                textos << caixa->objectName() + u'=' + QString::number(caixa->isChecked());
             else if (const auto *memo = qobject_cast<const TMemo *>(w))
                 textos << memo->objectName() + u'=' + memo->GetText();
         }
@@ -247,6 +276,7 @@ const TEntrada EntradasDoCliente[] = {
     {"ContatoFr", "EMailLabeledEdit", "a@exemplo.com.br", "email", "a@exemplo.com.br"},
     {"ContatoFr", "PaginaLabeledEdit", "exemplo.com.br", "pagina", "exemplo.com.br"},
     {"NotasFr", "Memo1", "Telefonar antes", "notas", "Telefonar antes"},
+    {"LimiteFr", "NumEditBR1", "1234,56", "limite", "1234.56"},
 };
 
 TEST_P(TEntradasDoClienteTest, TypingIntoALockedClientIsToldAndTakenBack)
@@ -269,7 +299,7 @@ INSTANTIATE_TEST_SUITE_P(Entradas, TEntradasDoClienteTest, testing::ValuesIn(Ent
 
 } // namespace
 
-TEST_F(TClientesFTest, TheListShowsCodeNameDocumentTownAndTelephone)
+TEST_F(TClientesFTest, TheListShowsCodeNameDocumentTownTelephoneLimitAndRegistration)
 {
     Abrir();
     tela->Reler(2);
@@ -283,11 +313,18 @@ TEST_F(TClientesFTest, TheListShowsCodeNameDocumentTownAndTelephone)
     }
     EXPECT_EQ(titulos, (QStringList{QStringLiteral("Código"), QStringLiteral("Nome"),
                                     QStringLiteral("Documento"), QStringLiteral("Cidade/UF"),
-                                    QStringLiteral("Telefone")}));
+                                    QStringLiteral("Telefone"), QStringLiteral("Limite (R$)"),
+                                    QStringLiteral("Cadastro")}));
     EXPECT_EQ(linha[0], QStringLiteral("2"));
     EXPECT_EQ(linha[2].size(), 18) << linha[2].toStdString();
     EXPECT_EQ(linha[3], Coluna("mun || '/' || uf", 2));
     EXPECT_EQ(linha[4], Coluna("'(' || ddd || ') ' || fone1", 2));
+    conexao.Executar(QStringLiteral(
+        "update clientes set limite=1234.5, cadastro=date '2024-03-05' where clientes_cod=2"));
+    tela->Reler(2);
+    Assentar();
+    EXPECT_EQ(lista->GetCell(5, tela->Tab->RecNo), QStringLiteral("1.234,50"));
+    EXPECT_EQ(lista->GetCell(6, tela->Tab->RecNo), QStringLiteral("05/03/2024"));
 }
 
 TEST_F(TClientesFTest, APersonIsInsertedWithKeysAloneAndFoundAgain)
@@ -567,4 +604,229 @@ TEST_F(TClientesFTest, TabWalksThroughTheFieldsAsTheyStand)
         antes = onde;
     }
     EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
+}
+
+TEST_F(TClientesFTest, TheLimitIsKeptWithItsCentsAndANewClientIsActiveAndRegisteredToday)
+{
+    AbrirEm(1);
+    auto *limite = Frame<TNumEditBRBasFr>("LimiteFr");
+    Tecla(Qt::Key_I, Qt::ControlModifier | Qt::AltModifier);
+    EXPECT_EQ(limite->NumEditBR1->text(), QStringLiteral("0,00"));
+    EXPECT_TRUE(Frame<TCheckBoxBasFr>("AtivoFr")->CheckBox1->isChecked());
+    Digitar(QStringLiteral("Inês Araújo"));
+    DigitarEm(Frame<TCPFEditBR>("CPFEditBR1"), QStringLiteral("52998224725"));
+    DigitarEm(limite->NumEditBR1, QStringLiteral("2500,75"));
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    ASSERT_EQ(tela->Tab->Status, TStatus::Ocioso);
+    EXPECT_EQ(Quantos(QStringLiteral("clientes_cod=321 and limite=2500.75 and ativo='S' and "
+                                     "cadastro=current_date")),
+              1);
+    EXPECT_EQ(limite->NumEditBR1->text(), QStringLiteral("2.500,75"));
+}
+
+TEST_F(TClientesFTest, UntickingActiveStartsAnAlterationThatIsStored)
+{
+    AbrirEm(1);
+    auto *ativo = Frame<TCheckBoxBasFr>("AtivoFr")->CheckBox1;
+    ativo->setFocus();
+    Tecla(Qt::Key_Space);
+    EXPECT_EQ(tela->Tab->Status, TStatus::Alterando);
+    EXPECT_FALSE(ativo->isChecked());
+    Tecla(Qt::Key_Escape);
+    EXPECT_TRUE(ativo->isChecked());
+    ativo->setFocus();
+    Tecla(Qt::Key_Space);
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
+    EXPECT_EQ(Coluna("ativo", 1), QStringLiteral("N"));
+    tela->Reler(16);
+    EXPECT_FALSE(ativo->isChecked());
+    tela->Reler(2);
+    EXPECT_TRUE(ativo->isChecked());
+}
+
+TEST_F(TClientesFTest, UntickingALockedClientIsToldAndTakenBack)
+{
+    AbrirEm(1);
+    ASSERT_TRUE(GarantiaTentar(QStringLiteral("clientes"), QStringLiteral("1"),
+                               QStringLiteral(" where clientes_cod=1")));
+    auto *ativo = Frame<TCheckBoxBasFr>("AtivoFr")->CheckBox1;
+    ativo->setFocus();
+    Tecla(Qt::Key_Space);
+    EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
+    EXPECT_EQ(avisos.size(), 1);
+    avisos.clear();
+    Assentar();
+    EXPECT_TRUE(ativo->isChecked());
+    GarantiaLiberar(QStringLiteral("clientes"), QStringLiteral("1"));
+}
+
+TEST_F(TClientesFTest, AnAlterationLeavesTheDayOfRegistrationAlone)
+{
+    conexao.Executar(
+        QStringLiteral("update clientes set cadastro=date '2001-02-03' where clientes_cod=1"));
+    AbrirEm(1);
+    DigitarEm(Frame<QWidget>("NumLabeledEdit"), QStringLiteral("99"));
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(Coluna("num || ' ' || cadastro", 1), QStringLiteral("99 2001-02-03"));
+}
+
+TEST_F(TClientesFTest, TheListIsWholeUntilAFilterIsApplied)
+{
+    Abrir();
+    EXPECT_EQ(NaLista(), 320);
+    EXPECT_EQ(Status(), QStringLiteral("Exibindo todos os clientes"));
+    EXPECT_FALSE(tela->FiltroAtivLab->isVisible());
+    LigarCriterio("FiltroGrupoFr");
+    Tecla(Qt::Key_Return);
+    EXPECT_EQ(NaLista(), 320) << "a group that is ticked but not chosen filters nothing";
+    EXPECT_FALSE(tela->FiltroAtivo);
+}
+
+TEST_F(TClientesFTest, TheClientsOfAGroupAreShownUntilTheFilterIsReleased)
+{
+    Abrir();
+    FiltrarGrupo(QStringLiteral("Bebidas"));
+    EXPECT_EQ(NaLista(), Quantos(QStringLiteral("grupos_cod=2")));
+    EXPECT_GT(NaLista(), 0);
+    EXPECT_LT(NaLista(), 320);
+    EXPECT_EQ(Status(), QStringLiteral("Exibindo os clientes do grupo Bebidas"));
+    EXPECT_TRUE(tela->FiltroAtivLab->isVisible());
+    tela->FiltroZerarAct->Execute();
+    Assentar();
+    EXPECT_EQ(NaLista(), 320);
+    EXPECT_EQ(Status(), QStringLiteral("Exibindo todos os clientes"));
+}
+
+TEST_F(TClientesFTest, TheCriteriaOfTheFilterAreAllAskedFor)
+{
+    Abrir();
+    LigarCriterio("FiltroLimiteDeFr");
+    Digitar(QStringLiteral("1000,50"));
+    Tecla(Qt::Key_Return);
+    EXPECT_EQ(NaLista(), Quantos(QStringLiteral("limite>=1000.50")));
+    LigarCriterio("FiltroLimiteAteFr");
+    Digitar(QStringLiteral("5000"));
+    Tecla(Qt::Key_Return);
+    EXPECT_EQ(NaLista(), Quantos(QStringLiteral("limite>=1000.50 and limite<=5000")));
+    auto *situacao = Frame<TRadioGroup>("FiltroSituacaoGroup");
+    QTest::mouseClick(situacao->Botao(2), Qt::LeftButton, {}, QPoint(6, 8));
+    Tecla(Qt::Key_Return);
+    EXPECT_EQ(NaLista(), Quantos(QStringLiteral("limite>=1000.50 and limite<=5000 and ativo='N'")));
+    EXPECT_GT(NaLista(), 0);
+    FiltrarGrupo(QStringLiteral("Limpeza"));
+    EXPECT_EQ(NaLista(), Quantos(QStringLiteral("limite>=1000.50 and limite<=5000 and ativo='N' "
+                                                "and grupos_cod=3")));
+    EXPECT_EQ(Status(), QStringLiteral("Exibindo os clientes do grupo Limpeza, com limite a partir "
+                                       "de R$ 1.000,50, com limite até R$ 5.000,00, inativos"));
+}
+
+TEST_F(TClientesFTest, ThePeriodOfRegistrationIncludesBothDays)
+{
+    conexao.Executar(QStringLiteral("update clientes set cadastro=null"));
+    conexao.Executar(QStringLiteral("update clientes set cadastro=date '2024-03-04' + clientes_cod "
+                                    "where clientes_cod<=9"));
+    Abrir();
+    auto *cadastro = Frame<TDatasBasFr>("FiltroCadastroFr");
+    cadastro->MaskEdit1->setFocus();
+    Digitar(QStringLiteral("06032024"));
+    cadastro->MaskEdit2->setFocus();
+    Digitar(QStringLiteral("080324"));
+    Tecla(Qt::Key_Return);
+    EXPECT_EQ(NaLista(), 3) << "and none of those whose day is not known";
+    EXPECT_EQ(Status(),
+              QStringLiteral("Exibindo os clientes cadastro: De 06/03/2024 ate 08/03/2024"));
+}
+
+TEST_F(TClientesFTest, AnAlterationFromTheFilteredListIsOfTheClientThatWasSeen)
+{
+    Abrir();
+    FiltrarGrupo(QStringLiteral("Bebidas"));
+    tela->MoverParaLinha(5);
+    Assentar();
+    const int codigo = tela->StringGrid1->GetCell(0, 5).toInt();
+    const QString nome = tela->StringGrid1->GetCell(1, 5);
+    tela->StringGrid1->setFocus();
+    Tecla(Qt::Key_A, Qt::ControlModifier);
+    ASSERT_EQ(tela->Tab->Status, TStatus::Alterando);
+    EXPECT_EQ(NaLista(), 320) << "the filter was released";
+    EXPECT_EQ(NomeMostrado(), nome);
+    EXPECT_EQ(Frame<TEnderecoBasFr>("EnderecoFr")->EstadoDataSet, int(dsEdit));
+    DigitarEm(Frame<QWidget>("NumLabeledEdit"), QStringLiteral("777"));
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
+    EXPECT_EQ(Coluna("num", codigo), QStringLiteral("777"));
+    EXPECT_EQ(Quantos(QStringLiteral("num='777'")), 1);
+    EXPECT_EQ(Frame<TEnderecoBasFr>("EnderecoFr")->EstadoDataSet, int(dsBrowse));
+}
+
+TEST_F(TClientesFTest, TypingIntoACompositeInputWhileTheListIsFilteredKeepsWhatIsTyped)
+{
+    Abrir();
+    FiltrarGrupo(QStringLiteral("Bebidas"));
+    tela->MoverParaLinha(7);
+    const int codigo = tela->StringGrid1->GetCell(0, 7).toInt();
+    tela->PageControl1->MudarComoUsuario(1);
+    Assentar();
+    const QStringList antes = Entradas();
+    DigitarEm(Frame<QWidget>("Fone1EditBR"), QStringLiteral("32145678"));
+    EXPECT_EQ(tela->Tab->Status, TStatus::Alterando);
+    EXPECT_EQ(NaLista(), 320);
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(Coluna("fone1", codigo), QStringLiteral("3214-5678"));
+    DigitarEm(Frame<QWidget>("Fone1EditBR"), QStringLiteral("11111111"));
+    Tecla(Qt::Key_Escape);
+    QStringList depois = Entradas();
+    EXPECT_EQ(depois.removeAll(QStringLiteral("Fone1EditBR=3214-5678")), 1);
+    EXPECT_EQ(depois.size(), antes.size() - 1);
+    for (const QString &entrada : std::as_const(depois))
+        EXPECT_TRUE(antes.contains(entrada)) << entrada.toStdString();
+}
+
+TEST_F(TClientesFTest, AnInsertionFromTheFilteredListReleasesItAndStartsWithTheDefaults)
+{
+    Abrir();
+    FiltrarGrupo(QStringLiteral("Bebidas"));
+    tela->StringGrid1->setFocus();
+    Tecla(Qt::Key_I, Qt::ControlModifier | Qt::AltModifier);
+    ASSERT_EQ(tela->Tab->Status, TStatus::Inserindo);
+    EXPECT_FALSE(tela->FiltroAtivo);
+    auto *endereco = Frame<TEnderecoBasFr>("EnderecoFr");
+    EXPECT_EQ(endereco->UFComboBox->GetText(), QStringLiteral("SP"));
+    EXPECT_EQ(endereco->EstadoDataSet, int(dsInsert));
+    Digitar(QStringLiteral("Inês Araújo"));
+    DigitarEm(Frame<TCPFEditBR>("CPFEditBR1"), QStringLiteral("52998224725"));
+    Tecla(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
+    EXPECT_EQ(tela->Tab->Campos->Campos(0)->AsInteger(), 321);
+    EXPECT_EQ(NaLista(), 321);
+}
+
+TEST_F(TClientesFTest, DeletingInTheFilteredListDeletesTheClientThatWasSeen)
+{
+    Servicos().PerguntaDeletar = [] { return true; };
+    Abrir();
+    FiltrarGrupo(QStringLiteral("Bebidas"));
+    tela->StringGrid1->setFocus();
+    tela->MoverParaLinha(4);
+    Assentar();
+    const QString codigo = tela->StringGrid1->GetCell(0, 4);
+    const int doGrupo = NaLista();
+    Tecla(Qt::Key_Delete, Qt::ControlModifier);
+    EXPECT_EQ(Quantos(QStringLiteral("clientes_cod=") + codigo), 0);
+    EXPECT_EQ(Quantos(QStringLiteral("grupos_cod=2")), doGrupo - 1);
+    EXPECT_EQ(Quantos(), 319);
+    EXPECT_EQ(NaLista(), 319);
+}
+
+TEST_F(TClientesFTest, ThePanelsInputsLieInsideItAboveItsButtons)
+{
+    Abrir();
+    const QWidget *corpo = tela->ScrollBox1;
+    for (const char *nome : {"FiltroGrupoFr", "FiltroLimiteDeFr", "FiltroLimiteAteFr",
+                             "FiltroSituacaoGroup", "FiltroCadastroFr"}) {
+        const auto *w = Frame<QWidget>(nome);
+        EXPECT_LT(w->geometry().bottom(), tela->ToolBar4->y()) << nome;
+        EXPECT_LE(w->geometry().right(), corpo->width()) << nome;
+    }
 }

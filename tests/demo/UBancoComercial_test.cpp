@@ -108,6 +108,27 @@ TEST_F(BancoComercialTest, AnOlderDatabaseGainsWhatItLacksAndKeepsWhatItHolds)
     EXPECT_EQ(Numero(denovo, QStringLiteral("select count(*) from cep_uf")), 27);
 }
 
+TEST_F(BancoComercialTest, TheClientsOfAnOlderDatabaseMayBuyAndHaveNoCreditYet)
+{
+    const QString arquivo = BancoDaPrimeiraVersao();
+    {
+        TSQLConnection velha;
+        velha.DatabaseName = arquivo;
+        velha.Open();
+        QFile clientes(QStringLiteral(":/demo/schema-clientes.sql"));
+        ASSERT_TRUE(clientes.open(QIODevice::ReadOnly));
+        velha.ExecutarScript(QString::fromUtf8(clientes.readAll()));
+        velha.Executar(QStringLiteral("insert into clientes (clientes_cod, nome) values (1, "
+                                      "'Ana')"));
+    }
+    TSQLConnection conexao;
+    AbrirBancoComercial(conexao, arquivo);
+    EXPECT_EQ(Numero(conexao, QStringLiteral("select count(*) from clientes where nome = 'Ana' and "
+                                             "ativo = 'S' and limite = 0 and cadastro is null")),
+              1)
+        << "nobody knows on which day she was registered";
+}
+
 TEST_F(BancoComercialTest, AnOlderDatabaseBecomesTheSameAsANewOne)
 {
     TSQLConnection velha;
@@ -191,6 +212,10 @@ TEST_F(BancoComercialTest, TheSampleClientsArePlausible)
     EXPECT_TRUE(nenhum("tipo_pess = 1 and (cnpj is null or cpf is not null)"));
     EXPECT_TRUE(nenhum("nome = '' or nome_menor = '' or cep = '' or mun = '' or num = ''"));
     EXPECT_TRUE(nenhum("nascimento is null or nascimento > '2023-01-01'"));
+    EXPECT_TRUE(nenhum("cadastro is null or cadastro > current_date"));
+    EXPECT_TRUE(nenhum("ativo not in ('S', 'N') or limite < 0 or limite > 20500"));
+    EXPECT_EQ(Numero(conexao, QStringLiteral("select count(*) from clientes where ativo = 'N'")),
+              20);
     EXPECT_TRUE(nenhum("not exists (select 1 from cep_logr l where l.cep = clientes.cep)"));
     EXPECT_EQ(Numero(conexao, QStringLiteral("select count(distinct nome) from clientes")), 320);
     EXPECT_EQ(Numero(conexao, QStringLiteral("select count(distinct uf) from clientes")), 27);
