@@ -830,3 +830,14 @@ TEST_F(TClientesFTest, ThePanelsInputsLieInsideItAboveItsButtons)
         EXPECT_LE(w->geometry().right(), corpo->width()) << nome;
     }
 }
+
+TEST_F(TClientesFTest, TabGoesOnFromTheNotesToTheLimitAndToActive)
+{
+    AbrirEm(1);
+    QTest::mouseClick(Frame<QWidget>("Memo1"), Qt::LeftButton);
+    Tecla(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), Frame<TNumEditBRBasFr>("LimiteFr")->NumEditBR1);
+    Tecla(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), Frame<TCheckBoxBasFr>("AtivoFr")->CheckBox1);
+    EXPECT_EQ(tela->Tab->Status, TStatus::Ocioso);
+}
