@@ -5,6 +5,7 @@
 #include "platform/toolkit/Layout.h"
 #include "platform/toolkit/TImageList.h"
 #include "platform/toolkit/TStringGrid.h"
+#include "platform/toolkit/Teclas.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -85,13 +86,26 @@ void TArvGridFr::GridMouseDown(int col, int row)
     TArvItem *item = vivo && col == 0 && row >= 1 ? ArvItem(row) : nullptr;
     if (!item)
         return;
-    item->SetExpandido(!item->GetExpandido());
-    AtualizarExibicao();
+    Expandir(item, row, !item->GetExpandido());
 }
 
 TArvItem *TArvGridFr::ArvItem(int row) const
 {
     return TArvItem::De(StringGrid1->GetObjeto(0, row));
+}
+
+void TArvGridFr::PegarComponentes()
+{
+    TGridBasFr::PegarComponentes();
+    AoTeclaDescer(StringGrid1, [this](int &tecla, Qt::KeyboardModifiers estado) {
+        StringGrid1KeyDown(StringGrid1, tecla, estado);
+    });
+    AoTeclar(StringGrid1,
+             [this](QChar &caractere) { StringGrid1KeyPress(StringGrid1, caractere); });
+    StringGrid1->OnExpansao = [this](int col, int row) -> std::optional<bool> {
+        const TArvItem *item = col == 0 && row >= 1 ? ArvItem(row) : nullptr;
+        return item && item->NFilhos() > 0 ? std::optional(item->GetExpandido()) : std::nullopt;
+    };
 }
 
 void TArvGridFr::StringGrid1DrawCell(QObject *sender, int col, int row, QPainter &pintor,
@@ -101,6 +115,36 @@ void TArvGridFr::StringGrid1DrawCell(QObject *sender, int col, int row, QPainter
         TGridBasFr::StringGrid1DrawCell(sender, col, row, pintor, area, estado);
     else if (const TArvItem *item = ArvItem(row))
         PintarItem(*item, row, pintor, area);
+}
+
+void TArvGridFr::StringGrid1KeyDown(QObject *, int &tecla, Qt::KeyboardModifiers estado)
+{
+    TArvItem *item = estado & ~Qt::KeypadModifier ? nullptr : ItemDasTeclas();
+    if (!item || (tecla != VK_LEFT && tecla != VK_RIGHT))
+        return;
+    const bool expandir = tecla == VK_RIGHT;
+    if (PodeExpandir(*item, expandir)) {
+        tecla = 0;
+        Expandir(item, StringGrid1->GetRow(), expandir);
+    } else if (const int pai = expandir ? 0 : LinhaDoPai(*item); pai > 0) {
+        tecla = 0;
+        StringGrid1->SetRow(pai);
+        if (StringGrid1->GetRow() == pai && StringGrid1->OnClick)
+            StringGrid1->OnClick(StringGrid1); // as for any key that moves the current cell
+    }
+}
+
+void TArvGridFr::StringGrid1KeyPress(QObject *, QChar &caractere)
+{
+    if (caractere != u'+' && caractere != u'-')
+        return;
+    TArvItem *item = ItemDasTeclas();
+    if (!item || item->NFilhos() == 0)
+        return;
+    const bool expandir = caractere == u'+';
+    caractere = QChar();
+    if (PodeExpandir(*item, expandir))
+        Expandir(item, StringGrid1->GetRow(), expandir);
 }
 
 TArvGridFr::TCores TArvGridFr::CoresDaCelula(int row) const
@@ -158,6 +202,36 @@ void TArvGridFr::DescendentesParaGrid(TArvItem *item)
         LinhaParaGrid(filho);
         caminho.push_back({filho, 0});
     }
+}
+
+TArvItem *TArvGridFr::ItemDasTeclas() const
+{
+    const int col = StringGrid1->GetRowSelect() ? StringGrid1->GetLeftCol() : StringGrid1->GetCol();
+    const int row = StringGrid1->GetRow();
+    return col == 0 && row >= 1 ? ArvItem(row) : nullptr;
+}
+
+bool TArvGridFr::PodeExpandir(const TArvItem &item, bool v) const
+{
+    return item.NFilhos() > 0 && item.GetExpandido() != v;
+}
+
+void TArvGridFr::Expandir(TArvItem *item, int row, bool v)
+{
+    const QPointer<TArvGridFr> vivo(this);
+    item->SetExpandido(v);
+    AtualizarExibicao();
+    if (vivo)
+        StringGrid1->AnunciarExpansao(0, row);
+}
+
+/** 0 for an item of the top level. */
+int TArvGridFr::LinhaDoPai(const TArvItem &item) const
+{
+    int row = item.GetPai() == Raiz.get() ? 0 : StringGrid1->GetRow() - 1;
+    while (row > 0 && ArvItem(row) != item.GetPai())
+        --row;
+    return row;
 }
 
 /** The rows outlive the items. */

@@ -11,6 +11,12 @@ namespace ficha
  * indented by its level in the first column, with a picture before those that have children. A
  * click in the first column expands or collapses the item.
  *
+ * So do keys, for items with children, while the current cell is in the first column (where whole
+ * rows are selected, while the first column is in view): + and Right expand, - and Left collapse.
+ * What Right finds expanded it leaves to the grid, which goes on to the next column; Left on an
+ * item that shows nothing below it goes to the item that holds it. With Shift, Ctrl or Alt Left and
+ * Right are the grid's.
+ *
  * The descendant builds the tree (ColocarFilhos, TratarFilho for each item it adds) and writes the
  * columns of each item (DadoParaGrid).
  */
@@ -57,8 +63,13 @@ public:
     bool ExpandirSempre = true;
 
 protected:
+    void PegarComponentes() override;
     void StringGrid1DrawCell(QObject *sender, int col, int row, QPainter &pintor, const QRect &area,
                              unsigned estado) override;
+    /** Left and Right over an item; 0 for a key that was used. */
+    virtual void StringGrid1KeyDown(QObject *sender, int &tecla, Qt::KeyboardModifiers estado);
+    /** + and - over an item with children; the character is used up. */
+    virtual void StringGrid1KeyPress(QObject *sender, QChar &caractere);
 
 private:
     struct TCores;
@@ -67,6 +78,11 @@ private:
     void LinhaParaGrid(TArvItem *item);
     void DescendentesParaGrid(TArvItem *item);
     void SoltarItens();
+    /** The item whose turn the keys are; null for none. */
+    TArvItem *ItemDasTeclas() const;
+    bool PodeExpandir(const TArvItem &item, bool v) const;
+    void Expandir(TArvItem *item, int row, bool v);
+    int LinhaDoPai(const TArvItem &item) const;
 
     int profundidade = 0;
 };

@@ -47,12 +47,19 @@ public:
         if (handler)
             handler();
     }
-    void AntesTrocarCod() override { Anotar("AntesTrocarCod"); }
+    void AntesTrocarCod() override
+    {
+        Anotar("AntesTrocarCod");
+        const auto *janela = qobject_cast<TActContainerF *>(parentWidget());
+        copiaPronta = janela && janela->ActFr == this && !AmpliarAct->GetEnabled();
+    }
     void Atualizar() override { ++atualizacoes; }
 
     QStringList ganchos;
     std::function<void()> aoReler;
     int atualizacoes = 0;
+    /** It was the frame of its window, and could not be enlarged, when it got its code. */
+    bool copiaPronta = false;
     QLineEdit *edit = nullptr;
     static inline QList<TSaldoFr *> vivos;
 
@@ -220,6 +227,7 @@ TEST_F(TActBasFrTest, TheEnlargedCopyShowsTheSameCodeInAWindowOfItsOwn)
         EXPECT_EQ(copia->GetCod1(), 7);
         EXPECT_EQ(copia->ganchos.value(0), QStringLiteral("AntesTrocarCod -1"));
         EXPECT_EQ(copia->ganchos.size(), 5);
+        EXPECT_TRUE(copia->copiaPronta);
         EXPECT_FALSE(copia->AmpliarAct->GetEnabled());
         EXPECT_FALSE(copia->AmplToolButton->isEnabled());
         QTest::mouseClick(copia->AmplToolButton, Qt::LeftButton);
@@ -240,7 +248,11 @@ TEST_F(TActBasFrTest, TheEnlargedCopyShowsTheSameCodeInAWindowOfItsOwn)
 TEST_F(TActBasFrTest, TheWindowClosesWithEscAndCanBeOpenedAgain)
 {
     for (int vez = 0; vez < 2; ++vez)
-        Ampliar([](TActContainerF *janela) { QTest::keyClick(janela, Qt::Key_Escape); });
+        Ampliar([](TActContainerF *janela) {
+            QTest::keyClick(janela, Qt::Key_Escape, Qt::ShiftModifier);
+            EXPECT_TRUE(janela->isVisible());
+            QTest::keyClick(janela, Qt::Key_Escape);
+        });
     Ampliar([](TActContainerF *janela) { janela->FecharAction->Execute(); });
     EXPECT_FALSE(Janela());
     EXPECT_EQ(TSaldoFr::vivos.size(), 1);
@@ -254,6 +266,9 @@ TEST_F(TActBasFrTest, AWindowWithoutAFrameRefreshesAndShows)
     janela->Show();
     EXPECT_FALSE(janela->ActFr);
     EXPECT_EQ(janela->windowTitle(), QStringLiteral("x"));
+    janela->setWindowTitle(QStringLiteral("y"));
+    janela->Atualizar();
+    EXPECT_EQ(janela->windowTitle(), QStringLiteral("x")) << "as every screen keeps its caption";
 }
 
 TEST_F(TActBasFrTest, AClassThatIsNotRegisteredIsNamedInTheErrorAndNoWindowStays)

@@ -1,6 +1,7 @@
 #include "forms/UMemoDiagBasF.h"
 #include "platform/toolkit/TBitBtn.h"
 #include "platform/toolkit/TMemo.h"
+#include "platform/toolkit/Teclas.h"
 #include "support/Layouts.h"
 #include "support/Widgets.h"
 
@@ -76,6 +77,14 @@ TEST_F(TMemoDiagBasFTest, TheCaretGoesToTheEndEachTimeTheDialogOpens)
             diag->Close();
         });
     }
+}
+
+TEST_F(TMemoDiagBasFTest, TheMemoGetsAnEndKeyWhenTheDialogOpens)
+{
+    QList<int> teclas;
+    AoTeclaDescer(memo, [&](int &tecla, Qt::KeyboardModifiers) { teclas << tecla; });
+    Abrir();
+    EXPECT_EQ(teclas, QList<int>{35});
 }
 
 TEST_F(TMemoDiagBasFTest, BlanksOnlyAreRefusedWherePodeVazioIsOff)

@@ -112,6 +112,8 @@ TEST_F(TPanelBasFrTest, AClickOnTheHandleFoldsThePanelAwayAndBack)
     EXPECT_EQ(fr->SplitterPanel->x(), fr->Panel1->x() + fr->Panel1->width());
     EXPECT_EQ(fr->SplitterPanel->geometry(), QRect(468, 0, 12, 360));
     EXPECT_TRUE(ApontaParaAEsquerda());
+    EXPECT_EQ(fr->SplitterPanel->accessibleName(), QStringLiteral("Fechar"));
+    EXPECT_EQ(fr->SplitterPanel->toolTip(), QStringLiteral("Fechar"));
     fr->SplitterPanel->setFont(QFont(QStringLiteral("Arial")));
 
     QTest::mouseClick(fr->SplitterPanel, Qt::LeftButton);

@@ -13,6 +13,7 @@
 #include "support/Girar.h"
 #include "support/Layouts.h"
 
+#include <QAccessible>
 #include <QElapsedTimer>
 #include <QPainter>
 #include <QTimer>
@@ -266,6 +267,18 @@ TEST_F(TArvGridFrTest, TheWholeFirstColumnTogglesAndTitleOtherColumnsAndEmptyAre
     EXPECT_EQ(Linhas().size(), 5);
 }
 
+TEST_F(TArvGridFrTest, ACollapsedRootShowsNoItems)
+{
+    fr->Mostrar();
+    fr->Raiz->SetExpandido(false);
+    fr->AtualizarExibicao();
+    EXPECT_EQ(grade->GetRowCount(), 1);
+    fr->Raiz->SetExpandido(true);
+    fr->AtualizarExibicao();
+    EXPECT_EQ(Linhas(), TodasAbertas);
+    EXPECT_EQ(grade->GetFixedRows(), 1);
+}
+
 TEST_F(TArvGridFrTest, ModeZeroGivesEveryNewItemTheSameFlag)
 {
     fr->ExpandirSempre = false;
@@ -343,6 +356,188 @@ TEST_F(TArvGridFrTest, AnObjectOfAnotherClassIsNoItemAndItsCellIsNotPaintedByThe
     EXPECT_EQ(Fundo(1), grade->GetColor().ParaQColor()) << "the grid's own drawing only";
     fr->RelerFonte();
     EXPECT_EQ(grade->GetObjeto(0, 1), reinterpret_cast<std::intptr_t>(&outro)) << "not the tree's";
+}
+
+TEST_F(TArvGridFrTest, TheTitleIsPaintedAsATitleEvenWhereItCarriesAnItem)
+{
+    fr->Mostrar();
+    const QRect titulo = grade->CellRect(0, 0);
+    const QImage antes = Imagem().copy(titulo);
+    grade->SetObjeto(0, 0, fr->ArvItem(2)->Objeto());
+    grade->Invalidate();
+    EXPECT_EQ(Imagem().copy(titulo), antes);
+    Clicar(0, 0);
+    EXPECT_EQ(Linhas(), TodasAbertas);
+}
+
+TEST_F(TArvGridFrTest, AnItemHasTheGridsFontExceptForWhatItSetsItself)
+{
+    fr->Mostrar();
+    grade->SetCelula(2, 6);
+    const auto largura = [&](int row) {
+        const QList<int> tinta = Tinta(row, LugarDoTexto(row).x());
+        return tinta.isEmpty() ? 0 : tinta.last() - tinta.first();
+    };
+    const int normal = largura(5); // 1.2 Imobilizado
+    fr->ArvItem(5)->Exibicao.Font.setBold(true);
+    grade->Invalidate();
+    const int negrito = largura(5);
+    EXPECT_GT(negrito, normal);
+    QFont maior = grade->font();
+    maior.setPointSize(maior.pointSize() + 3);
+    grade->setFont(maior);
+    EXPECT_GT(largura(5), negrito);
+}
+
+TEST_F(TArvGridFrTest, RightAndPlusExpandLeftAndMinusCollapseTheCurrentItem)
+{
+    fr->Mostrar();
+    const QStringList semUmUm = {QStringLiteral("1"), QStringLiteral("1.1"), QStringLiteral("1.2"),
+                                 QStringLiteral("2"), QStringLiteral("2.1")};
+    grade->SetCelula(0, 2);
+    const QList<std::pair<Qt::Key, Qt::Key>> pares = {{Qt::Key_Left, Qt::Key_Right},
+                                                      {Qt::Key_Minus, Qt::Key_Plus}};
+    for (const auto &[recolher, expandir] : pares) {
+        QTest::keyClick(grade, recolher);
+        EXPECT_EQ(Linhas(), semUmUm);
+        EXPECT_EQ(TGridCoord({grade->GetCol(), grade->GetRow()}), TGridCoord({0, 2}));
+        QTest::keyClick(grade, expandir);
+        EXPECT_EQ(Linhas(), TodasAbertas);
+        EXPECT_EQ(TGridCoord({grade->GetCol(), grade->GetRow()}), TGridCoord({0, 2}));
+    }
+    // A plus that is typed with Shift, and the keys of the numeric pad.
+    QTest::keyClick(grade, Qt::Key_Minus, Qt::KeypadModifier);
+    EXPECT_EQ(Linhas(), semUmUm);
+    QTest::keyClick(grade, Qt::Key_Plus, Qt::ShiftModifier);
+    EXPECT_EQ(Linhas(), TodasAbertas);
+    // What is expanded stays so: nothing is inverted.
+    QTest::keyClick(grade, Qt::Key_Plus);
+    EXPECT_EQ(Linhas(), TodasAbertas);
+}
+
+TEST_F(TArvGridFrTest, LeftGoesOnToTheItemAboveAndRightToTheNextColumn)
+{
+    fr->Mostrar();
+    grade->SetCelula(0, 4); // 1.1.2, a leaf
+    int cliques = 0;
+    const auto antes = std::exchange(grade->OnClick, [&](QObject *) { ++cliques; });
+    QTest::keyClick(grade, Qt::Key_Left);
+    EXPECT_EQ(grade->GetRow(), 2);
+    EXPECT_EQ(cliques, 1) << "like any key that moves the current cell";
+    QTest::keyClick(grade, Qt::Key_Left);
+    EXPECT_EQ(Linhas().size(), 5) << "1.1 is collapsed first";
+    QTest::keyClick(grade, Qt::Key_Left);
+    EXPECT_EQ(grade->GetRow(), 1);
+    QTest::keyClick(grade, Qt::Key_Left);
+    EXPECT_EQ(Linhas().size(), 3);
+    QTest::keyClick(grade, Qt::Key_Left);
+    EXPECT_EQ(TGridCoord({grade->GetCol(), grade->GetRow()}), TGridCoord({0, 1}));
+    EXPECT_EQ(Linhas().size(), 3) << "nothing is above an item of the top level";
+    QTest::keyClick(grade, Qt::Key_Right);
+    EXPECT_EQ(Linhas().size(), 5);
+    EXPECT_EQ(grade->GetCol(), 0);
+    QTest::keyClick(grade, Qt::Key_Right);
+    EXPECT_EQ(TGridCoord({grade->GetCol(), grade->GetRow()}), TGridCoord({1, 1}));
+    grade->SetCelula(0, 3); // 1.2, a leaf
+    QTest::keyClick(grade, Qt::Key_Right);
+    EXPECT_EQ(TGridCoord({grade->GetCol(), grade->GetRow()}), TGridCoord({1, 3}));
+    grade->OnClick = antes;
+}
+
+TEST_F(TArvGridFrTest, KeysInOtherColumnsWithCtrlOrOverALeafAreTheGridsAndTheScreens)
+{
+    fr->Mostrar();
+    const auto chega = [&](Qt::Key tecla, const QString &texto, Qt::KeyboardModifiers com = {}) {
+        QKeyEvent evento(QEvent::KeyPress, tecla, com, texto);
+        QApplication::sendEvent(grade, &evento);
+        return !evento.isAccepted();
+    };
+    grade->SetCelula(1, 2);
+    EXPECT_TRUE(chega(Qt::Key_Minus, QStringLiteral("-")));
+    QTest::keyClick(grade, Qt::Key_Left);
+    EXPECT_EQ(TGridCoord({grade->GetCol(), grade->GetRow()}), TGridCoord({0, 2}));
+    EXPECT_EQ(Linhas(), TodasAbertas);
+    chega(Qt::Key_Left, {}, Qt::ControlModifier);
+    chega(Qt::Key_Left, {}, Qt::ShiftModifier);
+    EXPECT_TRUE(chega(Qt::Key_Left, {}, Qt::AltModifier));
+    EXPECT_EQ(Linhas(), TodasAbertas);
+    EXPECT_TRUE(chega(Qt::Key_Asterisk, QStringLiteral("*")));
+    EXPECT_FALSE(chega(Qt::Key_Plus, QStringLiteral("+"))) << "of an item with children";
+    grade->SetCelula(0, 3);
+    EXPECT_TRUE(chega(Qt::Key_Minus, QStringLiteral("-")));
+    EXPECT_TRUE(fr->ArvItem(3)->GetExpandido());
+    // A grid that shows no item: nothing to be expanded.
+    fr->Raiz->LimparFilhos();
+    grade->SetCelula(0, 1);
+    QTest::keyClick(grade, Qt::Key_Left);
+    QTest::keyClick(grade, Qt::Key_Minus);
+    EXPECT_EQ(grade->GetRowCount(), 8);
+}
+
+TEST_F(TArvGridFrTest, WhereWholeRowsAreSelectedTheKeysServeTheItemWhileItIsInView)
+{
+    fr->Mostrar();
+    grade->SetRowSelect(true);
+    Clicar(1, 2);
+    QTest::keyClick(grade, Qt::Key_Left);
+    EXPECT_EQ(Linhas().size(), 5);
+    QTest::keyClick(grade, Qt::Key_Plus);
+    EXPECT_EQ(Linhas(), TodasAbertas);
+    grade->SetColWidth(1, 300); // wider than the grid
+    Girar();
+    QTest::keyClick(grade, Qt::Key_Right);
+    ASSERT_EQ(grade->GetLeftCol(), 1) << "expanded already: the columns scroll";
+    QTest::keyClick(grade, Qt::Key_Minus);
+    EXPECT_EQ(Linhas(), TodasAbertas);
+    QTest::keyClick(grade, Qt::Key_Left);
+    EXPECT_EQ(grade->GetLeftCol(), 0);
+    EXPECT_EQ(Linhas(), TodasAbertas);
+}
+
+TEST_F(TArvGridFrTest, AFrameMayBeDestroyedByTheKeyThatCollapses)
+{
+    for (const Qt::Key tecla : {Qt::Key_Left, Qt::Key_Minus}) {
+        class TSuicidaFr : public TContasFr
+        {
+        public:
+            using TContasFr::TContasFr;
+            void AtualizarExibicao() override
+            {
+                if (!std::exchange(primeira, false))
+                    delete this;
+                else
+                    TContasFr::AtualizarExibicao();
+            }
+            bool primeira = true;
+        };
+        const QPointer<TSuicidaFr> outro = Criar<TSuicidaFr>(&janela);
+        outro->show();
+        outro->Mostrar();
+        outro->StringGrid1->SetCelula(0, 2);
+        QTest::keyPress(outro->StringGrid1, tecla);
+        EXPECT_FALSE(outro);
+    }
+}
+
+TEST_F(TArvGridFrTest, AssistiveToolsSeeWhatIsExpanded)
+{
+    fr->Mostrar();
+    auto *tabela = QAccessible::queryAccessibleInterface(grade)->tableInterface();
+    ASSERT_NE(tabela, nullptr);
+    const auto estado = [&](int row, int col = 0) {
+        const QAccessible::State e = tabela->cellAt(row - 1, col)->state();
+        return QList<bool>{bool(e.expandable), bool(e.expanded), bool(e.collapsed)};
+    };
+    const QList<bool> aberta = {true, true, false}, fechada = {true, false, true},
+                      folha = {false, false, false};
+    EXPECT_EQ(estado(2), aberta);
+    EXPECT_EQ(estado(3), folha);
+    EXPECT_EQ(estado(2, 1), folha) << "the first column only";
+    grade->SetCelula(0, 2);
+    QTest::keyClick(grade, Qt::Key_Minus);
+    EXPECT_EQ(estado(2), fechada);
+    Clicar(0, 1);
+    EXPECT_EQ(estado(1), fechada);
 }
 
 TEST_F(TArvGridFrTest, RowsAreBandedAndTheCurrentRowStandsOut)

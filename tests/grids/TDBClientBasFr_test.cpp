@@ -41,6 +41,8 @@ public:
     void PreencherDados() override
     {
         eventos << QStringLiteral("dados");
+        ordemAoPreencher = CampoOrdem;
+        indicesAoPreencher = int(CDS->IndexDefs().size());
         CDS->EmptyDataSet();
         const auto por = [this](int cod, const char *descr, const Variant &preco, double peso,
                                 double dia) {
@@ -63,10 +65,17 @@ public:
         ++rolagens;
         EXPECT_EQ(dataset, CDS);
     }
-    void AtualizarListas() override { eventos << QStringLiteral("listas"); }
+    void AtualizarListas() override
+    {
+        eventos << QStringLiteral("listas");
+        filtrandoNasListas = Filtrando;
+    }
 
     QStringList eventos;
     int rolagens = 0;
+    QString ordemAoPreencher;
+    int indicesAoPreencher = 0;
+    bool filtrandoNasListas = false;
 
 protected:
     void DBGrid1DrawColumnCell(QObject *sender, QPainter &p, const QRect &rect, int dataCol,
@@ -229,6 +238,8 @@ TEST_F(TDBClientBasFrTest, ShowingBuildsTheIndexesLoadsAndRefreshesInThisOrder)
     fr->eventos.clear();
     Mostrar();
     EXPECT_EQ(fr->eventos, (QStringList{QStringLiteral("dados"), QStringLiteral("listas")}));
+    EXPECT_EQ(fr->indicesAoPreencher, 14);
+    EXPECT_EQ(fr->ordemAoPreencher, QStringLiteral("cod"));
     EXPECT_EQ(fr->CDS->IndexDefs().size(), 14u);
     EXPECT_TRUE(fr->CDS->HasIndex(QStringLiteral("acod")));
     EXPECT_TRUE(fr->CDS->HasIndex(QStringLiteral("dativo")));
@@ -255,6 +266,7 @@ TEST_F(TDBClientBasFrTest, FilteringIsStoredAndRefreshesTheLists)
     fr->eventos.clear();
     fr->SetFiltrando(true);
     EXPECT_TRUE(fr->Filtrando);
+    EXPECT_TRUE(fr->filtrandoNasListas) << "stored before the lists are refreshed";
     fr->SetFiltrando(false);
     EXPECT_FALSE(fr->Filtrando);
     EXPECT_EQ(fr->eventos, (QStringList{QStringLiteral("listas"), QStringLiteral("listas")}));
@@ -345,6 +357,22 @@ TEST_F(TDBClientBasFrTest, OnlyTheSortColumnHasTheOtherBandsAndTheSelectedRowIsD
     EXPECT_EQ(Fundo(depois, 0, 1), Branco);
     EXPECT_EQ(Fundo(depois, 2, 1), OrdemImpar);
     EXPECT_EQ(Fundo(depois, 0, 2), Escuro);
+    // Letters without soft edges are of their pure colour.
+    QFont dura = grid->font();
+    dura.setStyleStrategy(QFont::NoAntialias);
+    grid->setFont(dura);
+    const QImage letras = Foto();
+    const auto tem = [&](int row, const QColor &cor) {
+        const QRect area = grid->CellRect(1, row).adjusted(1, 1, -1, -1);
+        for (int y = area.top(); y <= area.bottom(); ++y)
+            for (int x = area.left(); x <= area.right(); ++x)
+                if (letras.pixelColor(x, y) == cor)
+                    return true;
+        return false;
+    };
+    EXPECT_TRUE(tem(2, Qt::white));
+    EXPECT_FALSE(tem(2, Qt::black));
+    EXPECT_TRUE(tem(1, Qt::black));
 }
 
 TEST_F(TDBClientBasFrTest, TheBandFillsTheLinesAndTheSelectionDoesNot)
@@ -359,6 +387,12 @@ TEST_F(TDBClientBasFrTest, TheBandFillsTheLinesAndTheSelectionDoesNot)
     EXPECT_EQ(foto.pixelColor(atual.topLeft()), Escuro);
     EXPECT_EQ(foto.pixelColor(atual.bottomRight()), Escuro);
     EXPECT_EQ(foto.pixelColor(atual.right() + 1, atual.center().y()), Branco);
+    ClicarTitulo(2);
+    const QImage ordenada = Foto();
+    const QRect daOrdem = grid->CellRect(2, 3);
+    const int y = daOrdem.center().y();
+    EXPECT_EQ(ordenada.pixelColor(daOrdem.left() - 1, y), OrdemImpar) << "to the left as well";
+    EXPECT_EQ(ordenada.pixelColor(daOrdem.right() + 1, y), Branco) << "the next column's";
 }
 
 TEST_F(TDBClientBasFrTest, BandsGoByThePlaceInTheWindowNotByTheRow)
@@ -490,6 +524,21 @@ TEST_F(TDBClientBasFrTest, TextsStandByTheirAlignmentThreePixelsFromTheEdge)
     EXPECT_NEAR(extremos(2, 1).second, 3, 1) << "right";
     const auto [esquerda, direita] = extremos(0, 1);
     EXPECT_NEAR(esquerda, direita, 2) << "centre";
+    // To the pixel: two below the cell's top.
+    for (int col = 0; col < 3; ++col) {
+        const QRect area = grid->CellRect(col, 1);
+        const QString texto = grid->GetCell(col, 1);
+        const QFontMetrics medida(grid->font());
+        const int sobra = area.width() - medida.horizontalAdvance(texto);
+        const int x = col == 0 ? sobra / 2 : col == 1 ? 3 : sobra - 3;
+        QImage esperada(foto.size(), foto.format());
+        esperada.fill(Fundo(foto, col, 1));
+        QPainter p(&esperada);
+        p.setFont(grid->font());
+        p.drawText(area.left() + x, area.top() + 2 + medida.ascent(), texto);
+        p.end();
+        EXPECT_EQ(foto.copy(area), esperada.copy(area)) << col;
+    }
 }
 
 TEST_F(TDBClientBasFrTest, ATextThatDoesNotFitStaysInItsCell)
@@ -566,6 +615,34 @@ public:
 };
 
 } // namespace
+
+TEST(TDBClientBasFr, ItStartsWithoutTheEmptyDatesWhateverTheFieldsDeclared)
+{
+    class TDatasFr : public TDBClientBasFr
+    {
+    public:
+        explicit TDatasFr(TChave chave) : TDBClientBasFr(chave) {}
+        void CriarCampos() override
+        {
+            EXPECT_TRUE(Ascendente && Opcao && !Filtrando);
+            AdIntegerFieldInvisivel(QStringLiteral("cod"));
+            MostrarDataNula = true;
+        }
+        void PreencherDados() override {}
+    };
+    const std::unique_ptr<TDatasFr> fr(Criar<TDatasFr>(nullptr));
+    EXPECT_FALSE(fr->MostrarDataNula);
+}
+
+TEST(TDBClientBasFr, LettersAreOf8PointsWhateverTheProgramHas)
+{
+    const QFont antes = QApplication::font();
+    QApplication::setFont(QFont(antes.family(), 13));
+    const std::unique_ptr<TProdutosFr> fr(Criar<TProdutosFr>(nullptr));
+    EXPECT_EQ(fr->DBGrid1->font().pointSize(), 8) << "its rows are 18 pixels high";
+    EXPECT_EQ(fr->DBGrid1->GetTitleFont().pointSize(), 8);
+    QApplication::setFont(antes);
+}
 
 TEST(TDBClientBasFr, FieldsDeclaredTwiceOrNotAtAllReachTheCaller)
 {

@@ -3,6 +3,7 @@
 #include "forms/UActContainerF.h"
 #include "forms/UFicha.h"
 #include "platform/support/SisD.h"
+#include "platform/support/StringGridDrawCell.h"
 #include "platform/toolkit/TAction.h"
 #include "platform/toolkit/TActionList.h"
 #include "platform/toolkit/TPanel.h"
@@ -11,6 +12,7 @@
 #include "support/Girar.h"
 #include "support/Layouts.h"
 
+#include <QPainter>
 #include <QTimer>
 
 using namespace ficha;
@@ -139,6 +141,35 @@ TEST_F(TGridBasFrTest, CellsArePaintedInBandsByTheColumnDescription)
     for (int x = preco.left(); x < preco.left() + 10; ++x)
         EXPECT_EQ(imagem.pixelColor(x, preco.center().y()), QColor(Qt::white));
     Retratar(&janela, QStringLiteral("TGridBasFr-precos"));
+}
+
+TEST_F(TGridBasFrTest, EveryCellIsHandedToTheLibrarysPainterWithTheStatedArguments)
+{
+    grade->SetCelula(1, 4);
+    grade->SetColWidth(0, 100); // the names need an ellipsis, or a second line
+    grade->SetCell(2, 2, QStringLiteral("%@#"));
+    fr->ColsInfo->SetConteudo(2, TConteudoCol::Numero);
+    Girar();
+    const QImage vista = grade->viewport()->grab().toImage();
+    int cores = 0;
+    for (int row = 0; row < grade->GetRowCount(); ++row)
+        for (int col = 0; col < grade->GetColCount(); ++col) {
+            const QRect area = grade->CellRect(col, row);
+            if (area.isEmpty() || !vista.rect().contains(area))
+                continue;
+            const unsigned estado = row == 0               ? gdFixa
+                                    : col == 1 && row == 4 ? gdSelecionada | gdFocada
+                                                           : gdNada;
+            QImage esperada(vista.size(), vista.format());
+            esperada.fill(grade->GetColor().ParaQColor());
+            QPainter p(&esperada);
+            StringGridDrawCell(grade, p, col, row, area, estado, nullptr, -1, 2, 1, true,
+                               fr->ColsInfo.get(), true, false, TColor(), QStringLiteral("%@#"));
+            p.end();
+            EXPECT_EQ(vista.copy(area), esperada.copy(area)) << col << ' ' << row;
+            ++cores;
+        }
+    EXPECT_EQ(cores, 27);
 }
 
 TEST_F(TGridBasFrTest, ANewFrameDescribesNoGridAndItsFirstRefreshPaints)

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QPainter;
 
@@ -165,6 +166,11 @@ public:
     std::function<void(QObject *, QMouseEvent *)> OnMouseDown, OnMouseMove, OnMouseUp;
     /** A click on a fixed cell: pressed and let go over it. */
     std::function<void(QObject *, int col, int row)> OnFixedCellClick;
+    /** For assistive tools: whether what a cell folds away is shown; nothing for a cell that folds
+     * nothing away. The owner announces a change with AnunciarExpansao. */
+    std::function<std::optional<bool>(int col, int row)> OnExpansao;
+    /** Tells assistive tools that a cell was expanded or collapsed. */
+    void AnunciarExpansao(int col, int row);
 
     int Tag = 0;
 

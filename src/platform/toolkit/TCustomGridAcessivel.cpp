@@ -77,6 +77,7 @@ public:
             estado.selectable = estado.focusable = true;
             estado.selected = isSelected();
             estado.focused = EhAtual() && grid->hasFocus();
+            DizerExpansao(estado);
         }
         return estado;
     }
@@ -135,6 +136,15 @@ public:
 private:
     bool EhTitulo() const { return isValid() && linha < grid->GetFixedRows(); }
     bool EhFixa() const { return EhTitulo() || (isValid() && coluna < grid->GetFixedCols()); }
+    void DizerExpansao(QAccessible::State &estado) const
+    {
+        std::optional<bool> aberta;
+        if (grid->OnExpansao)
+            Protegido([&] { aberta = grid->OnExpansao(coluna, linha); });
+        estado.expandable = aberta.has_value();
+        estado.expanded = aberta.value_or(false);
+        estado.collapsed = !aberta.value_or(true);
+    }
     bool EhAtual() const { return grid->GetCol() == coluna && grid->GetRow() == linha; }
 
     QPointer<TCustomGrid> grid;
@@ -322,6 +332,17 @@ QAccessibleInterface *Fabricar(const QString &classe, QObject *objeto)
 }
 
 } // namespace
+
+void TCustomGrid::AnunciarExpansao(int col, int row)
+{
+    if (!QAccessible::isActive() || !CelulaExiste(col, row))
+        return;
+    QAccessible::State mudou;
+    mudou.expanded = mudou.collapsed = true;
+    QAccessibleStateChangeEvent evento(this, mudou);
+    evento.setChild(row * GetColCount() + col);
+    QAccessible::updateAccessibility(&evento);
+}
 
 void InstalarGradeAcessivel()
 {
