@@ -207,6 +207,9 @@ TEST_F(TEnderecoBasFrTest, Layout)
         EXPECT_FALSE(timer->isActive());
     }
     EXPECT_EQ(fr->AguardePanel->fontInfo().pixelSize(), 21);
+    EXPECT_FALSE(fr->MunComboBox->hasFrame()) << "the município alone is flat";
+    for (const TComboBox *lista : {fr->UFComboBox, fr->BaiComboBox, fr->LogrComboBox})
+        EXPECT_TRUE(lista->hasFrame());
     const auto rotula = [this](const char *nome, const QWidget *entrada) {
         const auto *rotulo = fr->findChild<QLabel *>(QString::fromLatin1(nome));
         ASSERT_NE(rotulo, nullptr) << nome;
@@ -724,6 +727,7 @@ TEST_F(TEnderecoBasFrTest, AnotherTypedAddressIsReplacedOnlyWhenTheUserSaysSo)
     Inserir();
     EntrarCep("57303807");
     DigitarEm(fr->NumLabeledEdit, "12");
+    fr->NumFocusTimer->stop();
     EntrarCep("71020631");
     ASSERT_EQ(perguntas,
               QStringList{QStringLiteral(
