@@ -234,7 +234,7 @@ QString Sql(const TCliente &c, int codigo, const TEndereco &e, const QString &pa
         // Registered in the course of the three years before the first run.
         DataSQLFirebird(TDateTime(Hoje().Dias() - codigo * 53 % 1095)),
         QString::number(Limite(c.Empresa, codigo)),
-        QuotedStr(codigo % 16 ? QStringLiteral("S") : QStringLiteral("N")),
+        QuotedStr(codigo % 17 ? QStringLiteral("S") : QStringLiteral("N")),
     };
     return QStringLiteral("insert into clientes values (%1)")
         .arg(valores.join(QStringLiteral(", ")));

@@ -215,7 +215,7 @@ TEST_F(BancoComercialTest, TheSampleClientsArePlausible)
     EXPECT_TRUE(nenhum("cadastro is null or cadastro > current_date"));
     EXPECT_TRUE(nenhum("ativo not in ('S', 'N') or limite < 0 or limite > 20500"));
     EXPECT_EQ(Numero(conexao, QStringLiteral("select count(*) from clientes where ativo = 'N'")),
-              20);
+              18);
     EXPECT_TRUE(nenhum("not exists (select 1 from cep_logr l where l.cep = clientes.cep)"));
     EXPECT_EQ(Numero(conexao, QStringLiteral("select count(distinct nome) from clientes")), 320);
     EXPECT_EQ(Numero(conexao, QStringLiteral("select count(distinct uf) from clientes")), 27);
