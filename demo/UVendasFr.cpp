@@ -52,6 +52,13 @@ void TVendasFr::CriarCampos()
 
 void TVendasFr::PreencherDados()
 {
+    LerVendas();
+    // In the order shown, which the rows have only now.
+    CDS->First();
+}
+
+void TVendasFr::LerVendas()
+{
     TCustomBRSQL vendas(SQL());
     CDS->DisableControls();
     const auto mostrar = qScopeGuard([this] { CDS->EnableControls(); });
@@ -71,7 +78,6 @@ void TVendasFr::PreencherDados()
         Descontos += desconto;
     }
     Liquido = EmCentavos(Bruto - Descontos);
-    CDS->First();
 }
 
 QString TVendasFr::SQL() const

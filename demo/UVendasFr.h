@@ -43,6 +43,7 @@ public:
     double Liquido = 0;
 
 private:
+    void LerVendas();
     QString SQL() const;
 };
 

@@ -272,6 +272,7 @@ TEST_F(TVendasFTest, TheSidePanelNarrowsTheListAndFoldsAway)
     ASSERT_GT(silvas, 0);
     ASSERT_LT(silvas, Quantas());
     EXPECT_EQ(lista->CDS->RecordCount(), silvas);
+    EXPECT_EQ(grid->GetRow(), 1) << "the sale that was current is not there";
     Retratar(janela.get(), QStringLiteral("TVendasF-pesquisa"));
     const int largura = lista->width();
     Clicar(painel->SplitterPanel);
