@@ -207,6 +207,69 @@ TEST_F(TArquivoDeImagemTest, APictureThatIsTooLargeSaysSo)
                     .contains(QStringLiteral("grande demais")));
 }
 
+TEST_F(TArquivoDeImagemTest, TheLimitsHoldForOneSideForBitmapsAndForTheFileItself)
+{
+    const auto grande = [this](const char *nome, const QByteArray &bytes) {
+        const QString recusa = Recusa(pasta.Gravar(QString::fromLatin1(nome), bytes));
+        EXPECT_TRUE(recusa.contains(QStringLiteral("grande demais"))) << qPrintable(recusa);
+    };
+    QByteArray jpeg = Em(TPastaDeImagens::Lisa({40, 40}, Qt::red), "jpeg");
+    const qsizetype quadro = jpeg.indexOf(QByteArray("\xFF\xC0", 2));
+    ASSERT_GT(quadro, 0);
+    qToBigEndian<quint16>(65000, jpeg.data() + quadro + 7);
+    grande("comprida.jpg", jpeg);
+    // Compressed, so that the file need not hold each pixel.
+    QByteArray bmp = Em(TPastaDeImagens::Lisa({40, 40}, Qt::red), "bmp");
+    qToLittleEndian<qint32>(20'000, bmp.data() + 18);
+    qToLittleEndian<qint32>(10'000, bmp.data() + 22);
+    qToLittleEndian<quint16>(8, bmp.data() + 28);
+    qToLittleEndian<quint32>(1, bmp.data() + 30);
+    grande("rle.bmp", bmp);
+    const QString enorme = pasta.Gravar(QStringLiteral("x.jpg"), jpeg);
+    ASSERT_TRUE(QFile::resize(enorme, TArquivoDeImagem::MaisBytes + 1));
+    EXPECT_TRUE(Recusa(enorme).contains(QStringLiteral("grande demais")));
+}
+
+TEST_F(TArquivoDeImagemTest, BitmapsThatRunDownwardsOrHaveTheOldHeaderAreRead)
+{
+    QByteArray bmp = Em(TPastaDeImagens::Lisa({40, 30}, Qt::blue), "bmp");
+    qToLittleEndian<qint32>(-30, bmp.data() + 22);
+    const TArquivoDeImagem descendo(pasta.Gravar(QStringLiteral("a.bmp"), bmp));
+    EXPECT_EQ(descendo.Tamanho(), QSize(40, 30));
+    EXPECT_EQ(descendo.Ler({40, 30}).pixelColor(20, 15), QColor(Qt::blue));
+    QByteArray antigo("BM");
+    antigo.resize(26);
+    antigo.replace(2, 24, QByteArray(24, '\0'));
+    qToLittleEndian<quint32>(26, antigo.data() + 10);
+    qToLittleEndian<quint32>(12, antigo.data() + 14);
+    qToLittleEndian<quint16>(4, antigo.data() + 18);
+    qToLittleEndian<quint16>(3, antigo.data() + 20);
+    qToLittleEndian<quint16>(1, antigo.data() + 22);
+    qToLittleEndian<quint16>(24, antigo.data() + 24);
+    for (int i = 0; i < 12; ++i)
+        antigo += QByteArray("\x00\x00\xFF", 3);
+    qToLittleEndian<quint32>(quint32(antigo.size()), antigo.data() + 2);
+    const TArquivoDeImagem lido(pasta.Gravar(QStringLiteral("b.bmp"), antigo));
+    EXPECT_EQ(lido.Tamanho(), QSize(4, 3));
+    EXPECT_EQ(lido.Ler({4, 3}).pixelColor(1, 1), QColor(Qt::red));
+    EXPECT_NE(Recusa(pasta.Gravar(QStringLiteral("c.bmp"), antigo.chopped(1))), QString());
+}
+
+TEST_F(TArquivoDeImagemTest, ALongPictureKeepsItsProportionsWhenItIsBroughtDown)
+{
+    const TArquivoDeImagem lida(pasta.Gravar(
+        QStringLiteral("x.jpg"), TPastaDeImagens::Lisa({20'000, 800}, Qt::red), "jpeg"));
+    EXPECT_EQ(lida.LerNatural().size(), QSize(7'500, 300)) << "by three eighths";
+    EXPECT_EQ(lida.Ler({0, 0}).size(), QSize(1, 1)) << "a pixel each way at least";
+}
+
+TEST_F(TArquivoDeImagemTest, AFileGivenAnOldDateJustNowIsRecent)
+{
+    const QString arquivo = pasta.Gravar(QStringLiteral("a.jpg"), QByteArray("um"));
+    TPastaDeImagens::Envelhecer(arquivo, 60);
+    EXPECT_TRUE(VersaoDoArquivo(arquivo).Recente()) << "its content may be as new as that";
+}
+
 TEST_F(TArquivoDeImagemTest, AMissingOrUnknownFileSaysSo)
 {
     EXPECT_TRUE(

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <cstdlib>
 #include <utility>
 
 #include <sys/stat.h>
@@ -172,7 +173,9 @@ void TArquivoDeImagem::Medir()
     }
     ComLeitor(bytes, tipo, [this](const QImageReader &leitor) {
         deitada = leitor.transformation().testFlag(QImageIOHandler::TransformationRotate90);
-        tamanho = deitada ? leitor.size().transposed() : leitor.size();
+        // The height of a bitmap that runs downwards is told as a negative one.
+        const QSize lida(leitor.size().width(), std::abs(leitor.size().height()));
+        tamanho = deitada ? lida.transposed() : lida;
     });
 }
 
