@@ -140,6 +140,13 @@ protected:
         DigitarEm(fr->CEPMaskEdit, cep);
         Tab(fr->CEPMaskEdit);
     }
+    /** Until no timer is about to move the focus, however busy the machine is. */
+    void EsperarTimers()
+    {
+        EXPECT_TRUE(QTest::qWaitFor(
+            [this] { return !fr->NumFocusTimer->isActive() && !fr->CEPFocusTimer->isActive(); }));
+        QCoreApplication::processEvents();
+    }
     static TColor Selec() { return SisD().CorControlSelec; }
     static TColor Desselec() { return SisD().CorControlDesselec; }
     /** Enters a street of the guide by its list, the lists above filled from its CEP. */
@@ -531,7 +538,7 @@ TEST_F(TEnderecoBasFrTest, LeavingAnUnknownStateEmptiesTheThreeListsBelow)
 {
     Inserir();
     EntrarCep("57303807");
-    QTest::qWait(200);
+    EsperarTimers();
     DigitarEm(fr->UFComboBox, "xx");
     EXPECT_EQ(fr->BaiComboBox->GetText(), Arapiraca[3]) << "not before it is left";
     Tab(fr->UFComboBox);
@@ -550,7 +557,7 @@ TEST_F(TEnderecoBasFrTest, LeavingAStateThatNobodyChangedKeepsTheAddress)
 {
     Inserir();
     EntrarCep("57303807");
-    QTest::qWait(200);
+    EsperarTimers();
     EXPECT_EQ(Textos(), Arapiraca) << "the focus went through the state to the number";
     fr->UFComboBox->setFocus();
     Tab(fr->UFComboBox);
@@ -602,7 +609,7 @@ TEST_F(TEnderecoBasFrTest, ACepOfSevenDigitsIsRefusedAndKeepsTheFocus)
     Girar();
     EXPECT_EQ(mensagens.size(), 2) << "by a click too";
     EXPECT_EQ(Foco(), fr->CEPMaskEdit);
-    QTest::qWait(250);
+    EsperarTimers();
     EXPECT_EQ(Foco(), fr->CEPMaskEdit);
     EXPECT_EQ(mensagens.size(), 2);
     Teclar(fr->CEPMaskEdit, u'7');
@@ -615,7 +622,7 @@ TEST_F(TEnderecoBasFrTest, AGapInTheCepIsADigitMissing)
 {
     Inserir();
     EntrarCep("57303807");
-    QTest::qWait(200);
+    EsperarTimers();
     fr->CEPMaskEdit->setFocus();
     fr->CEPMaskEdit->setCursorPosition(2);
     Teclar(fr->CEPMaskEdit, Qt::Key_Delete);
@@ -668,9 +675,8 @@ TEST_F(TEnderecoBasFrTest, ACompleteCepFillsTheAddressAndSendsTheFocusToTheNumbe
     EXPECT_EQ(fr->LogrComboBox->GetObjeto(fr->LogrComboBox->GetItemIndex()), 14);
     EXPECT_EQ(perguntas, QStringList()) << "state and município of a new address are no address";
     EXPECT_EQ(Foco(), fr->UFComboBox);
-    QTest::qWait(100);
-    EXPECT_EQ(Foco(), fr->UFComboBox) << "a moment later";
-    QTest::qWait(150);
+    EXPECT_TRUE(fr->NumFocusTimer->isActive()) << "a moment later";
+    EsperarTimers();
     EXPECT_EQ(Foco(), fr->NumLabeledEdit);
     EXPECT_FALSE(fr->NumFocusTimer->isActive());
     EXPECT_FALSE(fr->AguardePanel->isVisible());
@@ -718,7 +724,7 @@ TEST_F(TEnderecoBasFrTest, ACepThatTheGuideDoesNotKnowChangesNothing)
     EntrarCep("99999999");
     EXPECT_EQ(Textos().mid(1), antesDisso.mid(1));
     EXPECT_EQ(mensagens, QStringList());
-    QTest::qWait(250);
+    EsperarTimers();
     EXPECT_EQ(Foco(), fr->UFComboBox) << "the address is still to be typed";
 }
 
@@ -738,7 +744,7 @@ TEST_F(TEnderecoBasFrTest, AnotherTypedAddressIsReplacedOnlyWhenTheUserSaysSo)
                   "AL\r\n"
                   "Deseja substituir o endereço digitado\r\npelo do Guia de CEPs?")});
     EXPECT_EQ(Textos().mid(1, 5), Arapiraca.mid(1, 4) << QStringLiteral("12")) << "no keeps it";
-    QTest::qWait(250);
+    EsperarTimers();
     EXPECT_EQ(Foco(), fr->NumLabeledEdit) << "the number is next whatever the answer";
     EXPECT_EQ(fr->NumLabeledEdit->selectedText(), QStringLiteral("12"))
         << "entered as by Tab: what is typed replaces it";
@@ -1054,13 +1060,13 @@ TEST_F(TEnderecoBasFrTest, TheCepTimerGivesTheFocusOnlyToWhatIsVisible)
 {
     Abrir();
     fr->CEPFocusTimer->start();
-    QTest::qWait(250);
+    EsperarTimers();
     EXPECT_EQ(Foco(), fr->CEPMaskEdit);
     EXPECT_FALSE(fr->CEPFocusTimer->isActive());
     antes->setFocus();
     fr->hide();
     fr->CEPFocusTimer->start();
-    QTest::qWait(250);
+    EsperarTimers();
     EXPECT_EQ(Foco(), antes);
     EXPECT_EQ(janela.focusWidget(), antes);
 }
@@ -1072,7 +1078,7 @@ TEST_F(TEnderecoBasFrTest, TheNumberTimerLeavesTheFocusWhereTheFrameIsNotInView)
     ASSERT_TRUE(fr->NumFocusTimer->isActive());
     antes->setFocus();
     fr->hide();
-    QTest::qWait(250);
+    EsperarTimers();
     fr->show();
     EXPECT_EQ(Foco(), antes);
 }
@@ -1128,7 +1134,7 @@ TEST_F(TEnderecoBasFrTest, TheFocusComesBackToTheCepAlsoWhenTheMessageTookItElse
     };
     EntrarCep("123");
     EXPECT_EQ(Foco(), antes);
-    QTest::qWait(250);
+    EsperarTimers();
     EXPECT_EQ(Foco(), fr->CEPMaskEdit);
     EXPECT_EQ(mensagens.size(), 1);
     EntrarCep("123");
@@ -1150,7 +1156,7 @@ TEST_F(TEnderecoBasFrTest, NeitherTimerSendsTheKeysToAnInputBehindAHiddenPage)
         timer->start();
         pagina.hide();
         depois->setFocus();
-        QTest::qWait(250);
+        EsperarTimers();
         EXPECT_EQ(Foco(), depois) << timer->objectName().toStdString();
         EXPECT_FALSE(timer->isActive());
         pagina.show();
@@ -1357,7 +1363,7 @@ TEST_F(TEnderecoBasFrTest, QuestionsInsideAnExitAreRealBoxes)
     EXPECT_EQ(textos.size(), 2);
     EXPECT_EQ(fr->UFComboBox->GetText(), QStringLiteral("DF"));
     ASSERT_TRUE(QTest::qWaitForWindowActive(&janela));
-    QTest::qWait(250);
+    EsperarTimers();
     EXPECT_EQ(Foco(), fr->NumLabeledEdit);
 }
 
