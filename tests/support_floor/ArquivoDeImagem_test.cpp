@@ -225,7 +225,9 @@ TEST_F(TArquivoDeImagemTest, TheLimitsHoldForOneSideForBitmapsAndForTheFileItsel
     qToLittleEndian<quint16>(8, bmp.data() + 28);
     qToLittleEndian<quint32>(1, bmp.data() + 30);
     grande("rle.bmp", bmp);
-    const QString enorme = pasta.Gravar(QStringLiteral("x.jpg"), jpeg);
+    const QString enorme =
+        pasta.Gravar(QStringLiteral("x.jpg"), Em(TPastaDeImagens::Lisa({40, 40}, Qt::red), "jpeg"));
+    ASSERT_EQ(Recusa(enorme), QString());
     ASSERT_TRUE(QFile::resize(enorme, TArquivoDeImagem::MaisBytes + 1));
     EXPECT_TRUE(Recusa(enorme).contains(QStringLiteral("grande demais")));
 }
