@@ -228,7 +228,7 @@ void TArvGridFr::Expandir(TArvItem *item, int row, bool v)
 /** 0 for an item of the top level. */
 int TArvGridFr::LinhaDoPai(const TArvItem &item) const
 {
-    int row = item.GetPai() == Raiz.get() ? 0 : StringGrid1->GetRow() - 1;
+    int row = StringGrid1->GetRow() - 1;
     while (row > 0 && ArvItem(row) != item.GetPai())
         --row;
     return row;

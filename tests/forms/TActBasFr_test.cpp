@@ -250,8 +250,9 @@ TEST_F(TActBasFrTest, TheWindowClosesWithEscAndCanBeOpenedAgain)
     for (int vez = 0; vez < 2; ++vez)
         Ampliar([](TActContainerF *janela) {
             QTest::keyClick(janela, Qt::Key_Escape, Qt::ShiftModifier);
-            EXPECT_TRUE(janela->isVisible());
+            EXPECT_EQ(janela->GetModalResult(), mrNone);
             QTest::keyClick(janela, Qt::Key_Escape);
+            EXPECT_EQ(janela->GetModalResult(), mrCancel);
         });
     Ampliar([](TActContainerF *janela) { janela->FecharAction->Execute(); });
     EXPECT_FALSE(Janela());

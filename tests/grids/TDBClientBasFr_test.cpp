@@ -387,6 +387,9 @@ TEST_F(TDBClientBasFrTest, TheBandFillsTheLinesAndTheSelectionDoesNot)
     EXPECT_EQ(foto.pixelColor(atual.topLeft()), Escuro);
     EXPECT_EQ(foto.pixelColor(atual.bottomRight()), Escuro);
     EXPECT_EQ(foto.pixelColor(atual.right() + 1, atual.center().y()), Branco);
+    const QRect ultima = grid->CellRect(4, 4);
+    EXPECT_EQ(foto.pixelColor(ultima.right() + 1, ultima.center().y()), Azul);
+    EXPECT_EQ(foto.pixelColor(ultima.left() + 9, ultima.bottom() + 1), Azul) << "below the rows";
     ClicarTitulo(2);
     const QImage ordenada = Foto();
     const QRect daOrdem = grid->CellRect(2, 3);

@@ -150,26 +150,31 @@ TEST_F(TGridBasFrTest, EveryCellIsHandedToTheLibrarysPainterWithTheStatedArgumen
     grade->SetCell(2, 2, QStringLiteral("%@#"));
     fr->ColsInfo->SetConteudo(2, TConteudoCol::Numero);
     Girar();
-    const QImage vista = grade->viewport()->grab().toImage();
-    int cores = 0;
-    for (int row = 0; row < grade->GetRowCount(); ++row)
-        for (int col = 0; col < grade->GetColCount(); ++col) {
-            const QRect area = grade->CellRect(col, row);
-            if (area.isEmpty() || !vista.rect().contains(area))
-                continue;
-            const unsigned estado = row == 0               ? gdFixa
-                                    : col == 1 && row == 4 ? gdSelecionada | gdFocada
-                                                           : gdNada;
-            QImage esperada(vista.size(), vista.format());
-            esperada.fill(grade->GetColor().ParaQColor());
-            QPainter p(&esperada);
-            StringGridDrawCell(grade, p, col, row, area, estado, nullptr, -1, 2, 1, true,
-                               fr->ColsInfo.get(), true, false, TColor(), QStringLiteral("%@#"));
-            p.end();
-            EXPECT_EQ(vista.copy(area), esperada.copy(area)) << col << ' ' << row;
-            ++cores;
-        }
-    EXPECT_EQ(cores, 27);
+    int celulas = 0;
+    for (const int altura : {18, 9}) { // in low rows the upper margin shows, too
+        grade->SetDefaultRowHeight(altura);
+        Girar();
+        const QImage vista = grade->viewport()->grab().toImage();
+        for (int row = 0; row < grade->GetRowCount(); ++row)
+            for (int col = 0; col < grade->GetColCount(); ++col) {
+                const QRect area = grade->CellRect(col, row);
+                if (area.isEmpty() || !vista.rect().contains(area))
+                    continue;
+                const unsigned estado = row == 0               ? gdFixa
+                                        : col == 1 && row == 4 ? gdSelecionada | gdFocada
+                                                               : gdNada;
+                QImage esperada(vista.size(), vista.format());
+                esperada.fill(grade->GetColor().ParaQColor());
+                QPainter p(&esperada);
+                StringGridDrawCell(grade, p, col, row, area, estado, nullptr, -1, 2, 1, true,
+                                   fr->ColsInfo.get(), true, false, TColor(),
+                                   QStringLiteral("%@#"));
+                p.end();
+                EXPECT_EQ(vista.copy(area), esperada.copy(area)) << col << ' ' << row;
+                ++celulas;
+            }
+    }
+    EXPECT_EQ(celulas, 2 * 27);
 }
 
 TEST_F(TGridBasFrTest, ANewFrameDescribesNoGridAndItsFirstRefreshPaints)
