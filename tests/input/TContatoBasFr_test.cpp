@@ -8,6 +8,7 @@
 #include "support/Entrada.h"
 #include "support/Girar.h"
 #include "support/Layouts.h"
+#include "support/Sobreposicao.h"
 
 using namespace ficha;
 using namespace ficha::testes;
@@ -113,16 +114,7 @@ TEST_F(TContatoBasFrTest, NothingIsClippedOrCovered)
     Retratar(fr, QStringLiteral("TContatoBasFr-cheio"));
     EXPECT_LE(fr->Fone1EditBR->fontMetrics().horizontalAdvance(QStringLiteral("98888-8888")),
               fr->Fone1EditBR->width() - 8);
-    const QList<QWidget *> filhos =
-        fr->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (const QWidget *a : filhos) {
-        if (!a->isVisible())
-            continue;
-        EXPECT_TRUE(fr->rect().contains(a->geometry())) << qPrintable(a->objectName());
-        for (const QWidget *b : filhos)
-            EXPECT_FALSE(a != b && b->isVisible() && a->geometry().intersects(b->geometry()))
-                << qPrintable(a->objectName()) << " and " << qPrintable(b->objectName());
-    }
+    ConfereNadaCoberto(fr);
 }
 
 TEST_F(TContatoBasFrTest, TypingTwoDigitsInTheDDDGoesToTheFirstPhone)

@@ -5,6 +5,7 @@
 #include "platform/toolkit/TBitBtn.h"
 #include "support/Entrada.h"
 #include "support/Layouts.h"
+#include "support/Sobreposicao.h"
 
 using namespace ficha;
 using namespace ficha::testes;
@@ -31,16 +32,7 @@ TEST_F(TContatoEmprBasFrTest, LayoutIsTheGoldenOne)
 TEST_F(TContatoEmprBasFrTest, NothingIsClippedOrCovered)
 {
     Montar();
-    const QList<QWidget *> filhos =
-        fr->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (const QWidget *a : filhos) {
-        if (!a->isVisible())
-            continue;
-        EXPECT_TRUE(fr->rect().contains(a->geometry())) << qPrintable(a->objectName());
-        for (const QWidget *b : filhos)
-            EXPECT_FALSE(a != b && b->isVisible() && a->geometry().intersects(b->geometry()))
-                << qPrintable(a->objectName()) << " and " << qPrintable(b->objectName());
-    }
+    ConfereNadaCoberto(fr);
 }
 
 TEST_F(TContatoEmprBasFrTest, EnterGoesAlongTheRowsUpToThePageAndDoesNothingThere)
