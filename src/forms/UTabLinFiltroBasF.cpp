@@ -84,7 +84,8 @@ void TTabLinFiltroBasF::Atualizar()
 
 bool TTabLinFiltroBasF::AtivarAlteracao()
 {
-    if (!PodeIniciarEdicao() || liberando)
+    // What the screen itself writes into its inputs asks too, and must not undo the filter.
+    if (!PodeIniciarEdicao() || liberando || !AtualizarLigado)
         return TTabLinearBasF::AtivarAlteracao();
     const QPointer<TTabLinFiltroBasF> viva(this);
     const TFlagGuarda guarda(this, &TTabLinFiltroBasF::liberando, true);
@@ -94,9 +95,10 @@ bool TTabLinFiltroBasF::AtivarAlteracao()
 bool TTabLinFiltroBasF::AtivarInsersao()
 {
     if (PodeIniciarEdicao() && !liberando) {
+        const QPointer<TTabLinFiltroBasF> viva(this);
         const TFlagGuarda guarda(this, &TTabLinFiltroBasF::liberando, true);
         FiltroZerarAct->Execute();
-        if (!textoPreparado)
+        if (!viva || !textoPreparado)
             return true;
     }
     return TTabLinearBasF::AtivarInsersao();
@@ -180,7 +182,7 @@ void TTabLinFiltroBasF::FormClose(QObject *sender, TCloseAction &acao)
 void TTabLinFiltroBasF::ExclActionExecute(QObject *sender)
 {
     const QPointer<TTabLinFiltroBasF> viva(this);
-    if (PodeIniciarEdicao() && Tab->PodeExcluir() && !liberando) {
+    if (PodeIniciarEdicao() && !liberando) {
         const TFlagGuarda guarda(this, &TTabLinFiltroBasF::liberando, true);
         if (!LiberarMantendoRegistro() || !viva)
             return;
@@ -199,9 +201,13 @@ void TTabLinFiltroBasF::FiltroZerarActExecute(QObject *)
 {
     if (!PodeIniciarEdicao())
         return;
+    // The descendant's steps may let in what closes the screen.
+    const QPointer<TTabLinFiltroBasF> viva(this);
     AtualizarFiltroPanel();
-    ZerarFiltro();
-    FitroExecAct->Execute();
+    if (viva)
+        ZerarFiltro();
+    if (viva)
+        FitroExecAct->Execute();
 }
 
 void TTabLinFiltroBasF::FitroExecActExecute(QObject *)

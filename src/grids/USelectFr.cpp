@@ -136,7 +136,7 @@ void TSelectFr::BuscaLabeledEditKeyPress(QObject *, QChar &key)
         key = QChar();
         PressionouEnter();
     } else {
-        key = CharSemAcento(key); // twice: harmless, and descendants may have put another one in
+        key = CharSemAcento(key); // a second time, deliberately: a plain letter stays as it is
     }
 }
 

@@ -107,6 +107,8 @@ TEST_F(TTabLinFiltroBasFTest, TheLayoutIsAsStated)
     EXPECT_EQ(tela->FiltroPanel->parent(), tela->ListaTabSheet);
     EXPECT_EQ(tela->FiltroPanel->width(), 190);
     EXPECT_EQ(tela->FiltroPanel->frameWidth(), 2);
+    EXPECT_EQ(tela->FiltroPanel->frameShape(), QFrame::Box);
+    EXPECT_EQ(tela->FiltroPanel->frameShadow(), QFrame::Raised);
     EXPECT_EQ(tela->FiltroBotPanel->width(), 13);
     EXPECT_EQ(tela->FiltroBotPanel->cursor().shape(), Qt::PointingHandCursor);
     EXPECT_EQ(tela->FiltroBotPanel->geometry().right(), 187);
@@ -167,8 +169,8 @@ TEST_F(TTabLinFiltroBasFTest, CreationShowsAndEmptiesTheFilterBeforeTheListIsOpe
 {
     TTabLinFiltroBasF::FiltroLargura = 77;
     TPecasF *tela = Abrir<TPecasF>();
-    EXPECT_EQ(tela->chamadas,
-              QStringList({"AtualizarFiltroPanel", "ZerarFiltro", "PrepararSQL", "abre"}));
+    EXPECT_EQ(tela->chamadas, QStringList({"AtualizarFiltroPanel", "ZerarFiltro", "PrepararSQL",
+                                           "abre", "PrepTit"}));
     EXPECT_EQ(TTabLinFiltroBasF::FiltroLargura, 190);
     EXPECT_TRUE(tela->FiltroAberto);
     EXPECT_EQ(tela->FiltroStatusLabel->text(), QStringLiteral("Exibindo todas as peças"));
@@ -297,14 +299,69 @@ TEST_F(TTabLinFiltroBasFTest, AnEmptyResultShowsOneBlankRowUnderTheTitles)
 TEST_F(TTabLinFiltroBasFTest, AScreenOpenedOnAnEmptyTableHasABlankRow)
 {
     banco.Executar(QStringLiteral("delete from pecas"));
-    TPecasF *tela = Criar<TPecasF>(nullptr);
+    TPecasF *tela = Abrir<TPecasF>();
+    EXPECT_EQ(tela->StringGrid1->GetRowCount(), 2);
+    for (int c = 0; c < tela->StringGrid1->GetColCount(); ++c)
+        EXPECT_EQ(tela->StringGrid1->GetCell(c, 1), QString()) << c;
     tela->StringGrid1->SetRowCount(1);
     tela->PrepTit();
     EXPECT_EQ(tela->StringGrid1->GetRowCount(), 2);
     tela->StringGrid1->SetRowCount(7);
     tela->PrepTit();
     EXPECT_EQ(tela->StringGrid1->GetRowCount(), 7);
-    delete tela;
+}
+
+TEST_F(TTabLinFiltroBasFTest, WhatTheScreenItselfWritesReleasesNoFilter)
+{
+    TPecasF *tela = Abrir<TPecasF>();
+    Filtrar(tela, QStringLiteral("porca"));
+    tela->chamadas.clear();
+    tela->AtualizarLigado = false;
+    EXPECT_FALSE(tela->AtivarAlteracao());
+    tela->AtualizarLigado = true;
+    EXPECT_EQ(tela->chamadas, QStringList());
+    EXPECT_EQ(tela->StringGrid1->GetRowCount(), 4);
+}
+
+TEST_F(TTabLinFiltroBasFTest, ADeletionInAnEmptyFilteredListReleasesItSaysSoAndDeletesNothing)
+{
+    TPecasF *tela = Abrir<TPecasF>();
+    const QStringList antes = NoBanco();
+    tela->PerguntarExcluir = false;
+    tela->extra = QStringLiteral("pecas_cod>99");
+    tela->FitroExecAct->Execute();
+    tela->ExclAction->Execute(); // before the idle moment that switches it off
+    EXPECT_EQ(avisos,
+              QStringList(QStringLiteral("Nenhum registro estava escolhido.\r\n"
+                                         "O filtro foi liberado: escolha o registro na lista.")));
+    avisos.clear();
+    EXPECT_EQ(NoBanco(), antes);
+    EXPECT_EQ(tela->StringGrid1->GetRowCount(), 7);
+}
+
+TEST_F(TTabLinFiltroBasFTest, ShowingTheScreenPutsTheBackgroundPictureBehindTheInputs)
+{
+    const std::unique_ptr<TPecasF> tela(Criar<TPecasF>(nullptr));
+    EXPECT_FALSE(tela->FiltroFundoImage->pixmap(Qt::ReturnByValue).isNull());
+    tela->FiltroFundoImage->raise();
+    tela->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(tela.get()));
+    const auto filhos =
+        tela->ScrollBox1->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    EXPECT_EQ(filhos.value(0), tela->FiltroFundoImage);
+}
+
+TEST_F(TTabLinFiltroBasFTest, OpeningRepaintsTheList)
+{
+    TPecasF *tela = Abrir<TPecasF>();
+    int celulas = 0;
+    tela->StringGrid1->OnDrawCell = [&](auto &&...) { ++celulas; };
+    Ocioso();
+    celulas = 0;
+    QTest::mouseClick(tela->FiltroPanel, Qt::LeftButton, {}, QPoint(0, 50));
+    Ocioso();
+    EXPECT_GT(celulas, 0);
+    tela->StringGrid1->OnDrawCell = nullptr;
 }
 
 TEST_F(TTabLinFiltroBasFTest, EnterKeepsItsOwnMeaningInMemosAndButtons)
@@ -343,6 +400,11 @@ TEST_F(TTabLinFiltroBasFTest, TheStripClosesAndOpensThePanel)
     EXPECT_TRUE(tela->FiltroAberto);
     EXPECT_EQ(tela->FiltroPanel->width(), 190);
     EXPECT_EQ(tela->StringGrid1->x(), 198);
+    TTabLinFiltroBasF::FiltroLargura = 150;
+    ClicarNaFaixa(tela);
+    ClicarNaFaixa(tela);
+    EXPECT_EQ(tela->FiltroPanel->width(), 150) << "one width for all screens";
+    TTabLinFiltroBasF::FiltroLargura = 190;
 }
 
 TEST_F(TTabLinFiltroBasFTest, OpeningByTheStripAfterAWideDragGivesTheUsualWidthAgain)

@@ -89,6 +89,11 @@ public:
         chamadas << (aberto ? QStringLiteral("abre") : QStringLiteral("fecha"));
         TTabLinFiltroBasF::SetFiltroAberto(aberto);
     }
+    void PrepTit() override
+    {
+        chamadas << QStringLiteral("PrepTit");
+        TTabLinFiltroBasF::PrepTit();
+    }
     bool PodeExcluir() override { return podeExcluir; }
 
     QString Texto() const { return TextoEdit ? TextoEdit->GetText() : QString(); }

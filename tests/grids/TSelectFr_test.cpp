@@ -97,11 +97,22 @@ public:
         buscas << QStringLiteral("posicionar texto ") + texto;
         TSelectProdutosFr::PosicionarTexto(texto);
     }
+    void BuscaLabeledEditKeyPress(QObject *sender, QChar &key) override
+    {
+        teclas += key;
+        TSelectProdutosFr::BuscaLabeledEditKeyPress(sender, key);
+    }
+    void BuscaLabeledEditClick(QObject *sender) override
+    {
+        ++cliques;
+        TSelectProdutosFr::BuscaLabeledEditClick(sender);
+    }
     using TSelectFr::ClientManager1ListUpDate;
 
-    int leituras = 0, perguntas = 0;
+    int leituras = 0, perguntas = 0, cliques = 0;
     bool falha = false, pode = true;
     QStringList eventos, buscas;
+    QString teclas;
 };
 
 class TSelectFrTest : public testing::Test
@@ -182,6 +193,15 @@ protected:
 };
 
 } // namespace
+
+TEST_F(TSelectFrTest, TheEditCallsWhatADescendantMakesOfItsKeysAndClicks)
+{
+    Mostrar();
+    Digitar("á");
+    EXPECT_EQ(fr->teclas, QStringLiteral("á")) << "before the accent goes";
+    QTest::mouseClick(busca, Qt::LeftButton);
+    EXPECT_EQ(fr->cliques, 1);
+}
 
 TEST_F(TSelectFrTest, LayoutIsTheGoldenOne)
 {

@@ -2,6 +2,8 @@
 
 #include "platform/database/EDatabaseError.h"
 
+#include <QPointer>
+
 #include <algorithm>
 
 namespace ficha
@@ -34,8 +36,10 @@ void TDataSet::Open()
 {
     if (aberto)
         return;
+    // A handler may open the dataset itself, or destroy it.
+    const QPointer<TDataSet> vivo(this);
     Q_EMIT BeforeOpen();
-    if (aberto)
+    if (!vivo || aberto)
         return;
     try {
         AbrirLinhas();
