@@ -25,6 +25,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <tuple>
 #include <utility>
 
 using namespace ficha;
@@ -435,7 +436,18 @@ void TPasseio::VigiarCaixas()
 
 void TPasseio::Assentar()
 {
-    QTest::qWait(1);
+    // On a desktop the window manager hands the keyboard over in its own time; where nobody has it
+    // in the end, the next key says so.
+    if (QGuiApplication::platformName() == QStringLiteral("offscreen")) {
+        QTest::qWait(1);
+    } else {
+        constexpr int Passagem = 60;
+        constexpr int Espera = 3000;
+        QTest::qWait(Passagem);
+        std::ignore = QTest::qWaitFor(
+            [] { return QApplication::activeModalWidget() || QApplication::activeWindow(); },
+            Espera);
+    }
     ExecutarOcioso();
 }
 
