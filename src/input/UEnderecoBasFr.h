@@ -26,7 +26,8 @@ class TMaskEdit;
  *
  * Not a value frame: it has no binding, and its Zerar and ValorAceitavel are its own. All texts
  * stand in capitals, items included. A text that is in no list may be typed; while typing, a list
- * is searched whatever the accents of its items.
+ * is searched whatever the accents of its items. The lists all have the style's single line around
+ * them, which is what a flat one, the município's, looks like.
  *
  * The items carry their codes in their object slots: the character of a state, the number of the
  * others. The guide is read on the host's connection, taken at the first reading: without one the
