@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/database/TSQLConnection.h"
 #include "platform/database/TSQLQuery.h"
 
 #include <QStringList>

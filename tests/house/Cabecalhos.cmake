@@ -26,4 +26,4 @@ target_include_directories(cabecalhos SYSTEM PRIVATE "${FIREBIRD_INCLUDE}")
 target_compile_options(cabecalhos PRIVATE -O0 -g0)
 
 add_test(NAME cabecalhos
-         COMMAND "${CMAKE_COMMAND}" --build "${CMAKE_BINARY_DIR}" --target cabecalhos)
+         COMMAND "${CMAKE_COMMAND}" --build "${CMAKE_BINARY_DIR}" --target cabecalhos -- -k 0)
