@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/database/TSQLConnection.h"
 #include "platform/database/TSQLQuery.h"
 
 #include <QStringList>

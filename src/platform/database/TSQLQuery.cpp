@@ -45,6 +45,11 @@ TSQLQuery::TSQLQuery(QObject *owner) : TDataSet(owner), d(new TPrivado) {}
 
 TSQLQuery::~TSQLQuery() = default;
 
+TSQLConnection *TSQLQuery::GetSQLConnection() const
+{
+    return conexao;
+}
+
 void TSQLQuery::SetSQLConnection(TSQLConnection *nova)
 {
     if (conexao != nova)

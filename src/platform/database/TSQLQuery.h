@@ -29,7 +29,7 @@ public:
     ~TSQLQuery() override;
 
     /** Not owned; may change while the query is closed. */
-    TSQLConnection *GetSQLConnection() const { return conexao; }
+    TSQLConnection *GetSQLConnection() const;
     void SetSQLConnection(TSQLConnection *conexao);
     const QString &GetSQL() const { return sql; }
     /** Closes the query when the text differs. */
