@@ -66,7 +66,7 @@ QString NomeDaClasse(const QMetaObject &classe)
 QString ArquivoDaClasse(const QString &nome)
 {
     for (const QString &pasta : Pastas() + QStringList{QStringLiteral(":/ficha/layouts")}) {
-        const QString arquivo = pasta + QLatin1Char('/') + nome + QStringLiteral(".ui");
+        QString arquivo = pasta + QLatin1Char('/') + nome + QStringLiteral(".ui");
         if (QFile::exists(arquivo))
             return arquivo;
     }
