@@ -7,7 +7,7 @@ pacotes=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-svg-dev libgl-dev
     firebird-dev libfbclient2 firebird3.0-server-core
-    libgtest-dev libgmock-dev
+    libgtest-dev libgmock-dev libbenchmark-dev libqt6sql6-ibase
     libwmf-dev
     fonts-liberation
 )
