@@ -6,8 +6,6 @@
 #include "platform/toolkit/Layout.h"
 #include "platform/toolkit/TStringGrid.h"
 
-#include <QKeyEvent>
-
 #include <algorithm>
 
 using namespace ficha;
@@ -58,7 +56,6 @@ void TContasFr::Create(QWidget *owner)
     ModoExpansao = 1;
     StringGrid1->SetRowSelect(true);
     StringGrid1->SetColSizing(true);
-    StringGrid1->installEventFilter(this);
     PrepGrid();
 }
 
@@ -172,37 +169,13 @@ double TContasFr::SaldoDe(const QString &codigo) const
     return conta ? conta->Saldo : 0;
 }
 
-bool TContasFr::eventFilter(QObject *objeto, QEvent *evento)
+/** Space is the one of plus and minus that the current account has a use for. */
+void TContasFr::StringGrid1KeyPress(QObject *sender, QChar &caractere)
 {
-    if (objeto == StringGrid1 && evento->type() == QEvent::KeyPress) {
-        const auto &tecla = *static_cast<QKeyEvent *>(evento);
-        const TConta *conta = tecla.modifiers() & ~Qt::KeypadModifier ? nullptr : Atual();
-        switch (conta ? tecla.key() : 0) {
-        case Qt::Key_Plus:
-        case Qt::Key_Right:
-            Alternar(true);
-            return true;
-        case Qt::Key_Minus:
-        case Qt::Key_Left:
-            Alternar(false);
-            return true;
-        case Qt::Key_Space:
-            Alternar(!conta->GetExpandido());
-            return true;
-        default:
-            break;
-        }
-    }
-    return TArvGridFr::eventFilter(objeto, evento);
-}
-
-void TContasFr::Alternar(bool expandir)
-{
-    TConta *conta = Atual();
-    if (conta->NFilhos() == 0 || conta->GetExpandido() == expandir)
-        return;
-    conta->SetExpandido(expandir);
-    AtualizarExibicao();
+    const TConta *conta = Atual();
+    if (caractere == u' ' && conta && conta->NFilhos() > 0)
+        caractere = conta->GetExpandido() ? u'-' : u'+';
+    TArvGridFr::StringGrid1KeyPress(sender, caractere);
 }
 
 void TContasFr::IrPara(const TConta *conta)

@@ -19,8 +19,8 @@ public:
 
 /**
  * The chart of accounts as a tree. Cod1 is the account whose branch is shown, 0 for all of them. A
- * new reading opens the first level. Plus and minus, right and left open and close the current
- * account, Space does either.
+ * new reading opens the first level. Space opens and closes the current account, as plus and minus
+ * do.
  */
 class TContasFr : public ficha::TArvGridFr
 {
@@ -47,12 +47,10 @@ public:
     double SaldoDe(const QString &codigo) const;
 
 protected:
-    bool eventFilter(QObject *objeto, QEvent *evento) override;
+    void StringGrid1KeyPress(QObject *sender, QChar &caractere) override;
 
 private:
     void LerContas(const QString &ramo, ficha::TArvItem *raiz);
-    /** Opens or closes the account of the current row, which stays current. */
-    void Alternar(bool expandir);
     void IrPara(const TConta *conta);
     QList<TConta *> Todas() const;
 

@@ -43,6 +43,7 @@ constexpr QSize TamanhoDoBotao(20, 20);
 const char16_t Ajuda[] = u"Plano de contas\r\n"
                          "Seta à direita ou +: abre a conta\r\n"
                          "Seta à esquerda ou -: fecha a conta\r\n"
+                         "Seta à esquerda em conta fechada: vai à que está acima dela\r\n"
                          "Espaço, ou um clique na conta: abre ou fecha\r\n"
                          "Ctrl+A: muda a descrição da conta\r\n"
                          "Na busca, Enter vai à próxima conta com esse código ou nome.";

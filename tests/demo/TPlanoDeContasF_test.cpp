@@ -65,13 +65,34 @@ TEST_F(TPlanoDeContasFTest, KeysOpenAndCloseTheCurrentAccount)
     EXPECT_EQ(grid->GetCell(0, 3), QStringLiteral("1.1.01  Caixa"));
     Tecla(Qt::Key_Right);
     EXPECT_EQ(grid->GetRowCount(), antes + 5) << "open already";
+    EXPECT_EQ(Atual(), QStringLiteral("1.1"));
     Tecla(Qt::Key_Left);
     EXPECT_EQ(grid->GetRowCount(), antes);
     EXPECT_EQ(Atual(), QStringLiteral("1.1"));
     Tecla(Qt::Key_Space);
     EXPECT_EQ(grid->GetRowCount(), antes + 5);
+    EXPECT_EQ(Atual(), QStringLiteral("1.1"));
+    Tecla(Qt::Key_Space);
+    EXPECT_EQ(grid->GetRowCount(), antes);
+    Tecla(Qt::Key_Right);
+    EXPECT_EQ(grid->GetRowCount(), antes + 5);
     Tecla(Qt::Key_Minus);
     EXPECT_EQ(grid->GetRowCount(), antes);
+    Tecla(Qt::Key_Left);
+    EXPECT_EQ(Atual(), QStringLiteral("1")) << "from a closed account to the one above";
+    EXPECT_EQ(grid->GetRowCount(), antes);
+}
+
+TEST_F(TPlanoDeContasFTest, SpaceOnAnAccountWithoutOthersBelowDoesNothing)
+{
+    Tecla(Qt::Key_Down);
+    Tecla(Qt::Key_Plus);
+    Tecla(Qt::Key_Down);
+    ASSERT_EQ(Atual(), QStringLiteral("1.1.01"));
+    const QStringList antes = Linhas();
+    Tecla(Qt::Key_Space);
+    EXPECT_EQ(Linhas(), antes);
+    EXPECT_EQ(Atual(), QStringLiteral("1.1.01"));
 }
 
 TEST_F(TPlanoDeContasFTest, AClickOpensAndClosesAnAccount)
