@@ -10,7 +10,6 @@
 #include "platform/support/Mensagens.h"
 #include "platform/support/Textos.h"
 #include "platform/toolkit/Evento.h"
-#include "platform/toolkit/TCheckBox.h"
 #include "platform/toolkit/TComboBox.h"
 #include "platform/toolkit/TMaskEdit.h"
 #include "platform/toolkit/TRadioGroup.h"
@@ -111,13 +110,9 @@ void TClientesF::PrepararSQL()
 
 void TClientesF::ZerarFiltro()
 {
-    for (TOpcionalBasFr *fr : {static_cast<TOpcionalBasFr *>(FiltroGrupoFr),
-                               static_cast<TOpcionalBasFr *>(FiltroLimiteDeFr),
-                               static_cast<TOpcionalBasFr *>(FiltroLimiteAteFr)})
-        fr->AtivoCheckBox->setChecked(false);
-    FiltroGrupoFr->ComboBoxCodFr->Zerar();
-    FiltroLimiteDeFr->TNumEditBRBasFr1->Zerar();
-    FiltroLimiteAteFr->TNumEditBRBasFr1->Zerar();
+    Desligar(*FiltroGrupoFr);
+    Desligar(*FiltroLimiteDeFr);
+    Desligar(*FiltroLimiteAteFr);
     FiltroSituacaoGroup->SetItemIndex(0);
     FiltroCadastroFr->Zerar();
 }

@@ -73,4 +73,16 @@ void TCriterios::Juntar(const QString &condicao, const QString &frase)
     frases << frase;
 }
 
+void Desligar(TComboCodOpcionalFr &fr)
+{
+    fr.AtivoCheckBox->setChecked(false);
+    fr.ComboBoxCodFr->Zerar();
+}
+
+void Desligar(TNumOpcionalFr &fr)
+{
+    fr.AtivoCheckBox->setChecked(false);
+    fr.TNumEditBRBasFr1->Zerar();
+}
+
 } // namespace comercial

@@ -44,4 +44,8 @@ private:
     QStringList frases;
 };
 
+/** Switches a criterion off and empties it. */
+void Desligar(ficha::TComboCodOpcionalFr &fr);
+void Desligar(ficha::TNumOpcionalFr &fr);
+
 } // namespace comercial

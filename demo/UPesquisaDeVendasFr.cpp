@@ -3,6 +3,7 @@
 #include "dates/UComboCodOpcionalFr.h"
 #include "dates/UDataOpcionalFr.h"
 #include "dates/UNumOpcionalFr.h"
+#include "demo/UCriterios.h"
 #include "demo/UItensDaVendaFr.h"
 #include "demo/UVendasFr.h"
 #include "grids/USelectCodBasFr.h"
@@ -61,10 +62,8 @@ void TPesquisaDeVendasFr::ResetFiltro()
 {
     TPanelBasFr::ResetFiltro();
     ClienteFr->Zerar();
-    ValorFr->AtivoCheckBox->setChecked(false);
-    ValorFr->TNumEditBRBasFr1->Zerar();
-    GrupoFr->AtivoCheckBox->setChecked(false);
-    GrupoFr->ComboBoxCodFr->Zerar();
+    Desligar(*ValorFr);
+    Desligar(*GrupoFr);
     VencimentoFr->AtivoCheckBox->setChecked(false);
 }
 

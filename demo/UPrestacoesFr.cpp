@@ -1,9 +1,12 @@
 #include "demo/UPrestacoesFr.h"
 
+#include "demo/UCentavos.h"
 #include "platform/core/Relogio.h"
 #include "platform/support/Datas.h"
 #include "platform/support/TDBGrid.h"
 #include "platform/toolkit/Layout.h"
+
+#include <QScopeGuard>
 
 #include <cmath>
 
@@ -18,11 +21,6 @@ namespace
 {
 constexpr int Prestacoes = 12;
 constexpr double Valor = 5400, JurosAoMes = 0.0199;
-
-double EmCentavos(double valor)
-{
-    return std::round(valor * 100) / 100;
-}
 } // namespace
 
 void TPrestacoesFr::CriarCampos()
@@ -45,6 +43,7 @@ void TPrestacoesFr::PreencherDados()
         EmCentavos(Valor * JurosAoMes / (1 - std::pow(1 + JurosAoMes, -Prestacoes)));
     double saldo = Valor;
     CDS->DisableControls();
+    const auto mostrar = qScopeGuard([this] { CDS->EnableControls(); });
     CDS->EmptyDataSet();
     for (int i = 1; i <= Prestacoes; ++i) {
         const TDateTime vencimento = IncMonth(Hoje(), i);
@@ -56,7 +55,6 @@ void TPrestacoesFr::PreencherDados()
                            paga, saldo, int(ultima)});
     }
     CDS->First();
-    CDS->EnableControls();
 }
 
 void TPrestacoesFr::AtualizarListas()

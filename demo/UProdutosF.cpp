@@ -3,7 +3,6 @@
 #include "demo/UComboDeGrupos.h"
 #include "demo/UCriterios.h"
 #include "platform/edits/TNumEditBR.h"
-#include "platform/toolkit/TCheckBox.h"
 
 #include <QLabel>
 
@@ -36,13 +35,9 @@ void TProdutosF::PrepararSQL()
 
 void TProdutosF::ZerarFiltro()
 {
-    for (TOpcionalBasFr *fr : {static_cast<TOpcionalBasFr *>(FiltroGrupoFr),
-                               static_cast<TOpcionalBasFr *>(FiltroPrecoDeFr),
-                               static_cast<TOpcionalBasFr *>(FiltroPrecoAteFr)})
-        fr->AtivoCheckBox->setChecked(false);
-    FiltroGrupoFr->ComboBoxCodFr->Zerar();
-    FiltroPrecoDeFr->TNumEditBRBasFr1->Zerar();
-    FiltroPrecoAteFr->TNumEditBRBasFr1->Zerar();
+    Desligar(*FiltroGrupoFr);
+    Desligar(*FiltroPrecoDeFr);
+    Desligar(*FiltroPrecoAteFr);
     FiltroSituacaoGroup->SetItemIndex(0);
     FiltroCadastroFr->Zerar();
 }

@@ -119,8 +119,9 @@ void TVendasF::LigarAcoes()
 void TVendasF::FormShow(QObject *sender)
 {
     TChildMDIBasF::FormShow(sender);
-    Reler();
+    PrepararLista();
     PesquisaFr->ListaFr->DoShow();
+    MostrarTotais();
     SetActiveControl(PesquisaFr->ListaFr->DBGrid1);
 }
 
@@ -130,7 +131,7 @@ void TVendasF::FormActivate(QObject *sender)
     SelectFr->ClientManager1->Invalidar();
 }
 
-void TVendasF::Reler()
+void TVendasF::PrepararLista()
 {
     TVendasFr *lista = PesquisaFr->ListaFr;
     lista->Condicoes = PesquisaFr->Condicoes();
@@ -140,7 +141,12 @@ void TVendasF::Reler()
                                            "y.vendas_cod = v.vendas_cod and y.produtos_cod=%1)")
                                 .arg(produto);
     lista->CondicaoDoBruto = PesquisaFr->CondicaoDoBruto();
-    lista->Reler();
+}
+
+void TVendasF::Reler()
+{
+    PrepararLista();
+    PesquisaFr->ListaFr->Reler();
     MostrarTotais();
 }
 

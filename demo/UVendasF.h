@@ -37,7 +37,9 @@ protected:
 
 private:
     void LigarAcoes();
-    /** Reads the list by what is chosen on the screen. */
+    /** Gives the list the conditions that are chosen on the screen. */
+    void PrepararLista();
+    /** Reads the list by them. */
     void Reler();
     void MostrarTotais();
     /** Shows the sales of one product, 0 for all. */

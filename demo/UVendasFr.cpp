@@ -1,13 +1,13 @@
 #include "demo/UVendasFr.h"
 
+#include "demo/UCentavos.h"
 #include "platform/database/ConexD.h"
 #include "platform/support/Datas.h"
 #include "platform/support/TDBGrid.h"
 #include "platform/toolkit/Layout.h"
 
 #include <QScopeGuard>
-
-#include <cmath>
+#include <QScopedValueRollback>
 
 using namespace ficha;
 
@@ -16,23 +16,15 @@ namespace comercial
 
 FICHA_REGISTRAR(TVendasFr)
 
-namespace
-{
-
-double EmCentavos(double valor)
-{
-    return std::round(valor * 100) / 100;
-}
-
-} // namespace
-
 void TVendasFr::DoShow()
 {
-    TDBClientBasFr::DoShow();
-    // Rising first, then falling.
-    DBGrid1TitleClick(DBGrid1->Columns(0));
-    DBGrid1TitleClick(DBGrid1->Columns(0));
-    CDS->First();
+    Calado([this] {
+        TDBClientBasFr::DoShow();
+        // Rising first, then falling.
+        DBGrid1TitleClick(DBGrid1->Columns(0));
+        DBGrid1TitleClick(DBGrid1->Columns(0));
+        CDS->First();
+    });
 }
 
 void TVendasFr::CriarCampos()
@@ -113,8 +105,8 @@ void TVendasFr::AtualizarListas()
 void TVendasFr::CDS1AfterScroll(TDataSet *dataset)
 {
     TDBClientBasFr::CDS1AfterScroll(dataset);
-    if (OnVenda)
-        OnVenda();
+    if (!calado)
+        AnunciarVenda();
 }
 
 void TVendasFr::SetFocus()
@@ -124,11 +116,11 @@ void TVendasFr::SetFocus()
 
 void TVendasFr::Reler()
 {
-    const int venda = Venda();
-    PreencherDados();
-    IrPara(venda);
-    if (OnVenda)
-        OnVenda();
+    Calado([this] {
+        const int venda = Venda();
+        PreencherDados();
+        IrPara(venda);
+    });
 }
 
 int TVendasFr::Venda() const
@@ -139,6 +131,21 @@ int TVendasFr::Venda() const
 bool TVendasFr::IrPara(int venda)
 {
     return CDS->Locate(QStringLiteral("venda"), {Variant(venda)});
+}
+
+void TVendasFr::Calado(const std::function<void()> &mudar)
+{
+    {
+        const QScopedValueRollback guarda(calado, true);
+        mudar();
+    }
+    AnunciarVenda();
+}
+
+void TVendasFr::AnunciarVenda()
+{
+    if (OnVenda)
+        OnVenda();
 }
 
 } // namespace comercial

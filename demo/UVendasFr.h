@@ -33,7 +33,8 @@ public:
      * out. */
     QStringList Condicoes;
     QString CondicaoDoBruto;
-    /** Another sale became current. */
+    /** Another sale became current; a new reading announces it once, at its end, whichever it is.
+     */
     std::function<void()> OnVenda;
 
     /** What the list comes to. */
@@ -45,6 +46,11 @@ public:
 private:
     void LerVendas();
     QString SQL() const;
+    /** Changes the list, and announces the sale that is current only then. */
+    void Calado(const std::function<void()> &mudar);
+    void AnunciarVenda();
+
+    bool calado = false;
 };
 
 } // namespace comercial

@@ -149,6 +149,35 @@ TEST_F(TVendasFTest, AnotherRangeOfDatesReadsTheListAgain)
     })) << nomes.join(u'\n').toStdString();
 }
 
+TEST_F(TVendasFTest, AReadingAnnouncesTheCurrentSaleOnceAtItsEnd)
+{
+    QList<int> anunciadas;
+    lista->OnVenda = [&, antes = lista->OnVenda] {
+        anunciadas << lista->Venda();
+        antes();
+    };
+    Tecla(Qt::Key_Down);
+    Tecla(Qt::Key_Down);
+    EXPECT_EQ(anunciadas, (QList{2999, 2998}));
+    anunciadas.clear();
+    lista->Reler();
+    EXPECT_EQ(anunciadas, QList{2998}) << "it stays current";
+    // Each of the two dates reads when it is left.
+    anunciadas.clear();
+    Periodo(QStringLiteral("010150"), QStringLiteral("020150"));
+    EXPECT_EQ(anunciadas, (QList{2998, 0}));
+    anunciadas.clear();
+    Periodo(QString(), QString());
+    EXPECT_EQ(anunciadas, (QList{0, 3000}));
+    Tecla(Qt::Key_Down);
+    anunciadas.clear();
+    tela->hide();
+    tela->show();
+    Assentar();
+    EXPECT_EQ(anunciadas, QList{3000}) << "a screen that is shown reads once";
+    EXPECT_EQ(Achar<TItensDaVendaFr>("ItensFr")->GetValor(), Variant(3000));
+}
+
 TEST_F(TVendasFTest, AnEmptyRangeShowsNothingAndDisablesWhatNeedsASale)
 {
     Periodo(QStringLiteral("010150"), QStringLiteral("020150"));
