@@ -1,10 +1,10 @@
-#include "dates/NoDialogo.h"
 #include "dates/UDataSelectF.h"
 #include "platform/core/Relogio.h"
 #include "platform/toolkit/TBitBtn.h"
 #include "platform/toolkit/TMonthCalendar.h"
 #include "platform/toolkit/TPanel.h"
 #include "support/Layouts.h"
+#include "support/NoDialogo.h"
 
 #include <QLabel>
 #include <QTableView>

@@ -1,4 +1,3 @@
-#include "dates/NoDialogo.h"
 #include "dates/UDatasBasFr.h"
 #include "dates/UDatasSelectF.h"
 #include "platform/core/Relogio.h"
@@ -11,6 +10,7 @@
 #include "support/Entrada.h"
 #include "support/Girar.h"
 #include "support/Layouts.h"
+#include "support/NoDialogo.h"
 
 #include <QLabel>
 #include <QScreen>

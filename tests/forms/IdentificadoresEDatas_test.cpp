@@ -1,10 +1,8 @@
-#include "dates/NoDialogo.h"
 #include "dates/UDTPBasFr.h"
 #include "dates/UDataBasFr.h"
 #include "dates/UDataSelectF.h"
 #include "dates/UDatasBasFr.h"
 #include "dates/UDatasSelectF.h"
-#include "forms/CaixasDeVerdade.h"
 #include "forms/TelasDeTeste.h"
 #include "input/UBarCodBasFr.h"
 #include "input/UCPFEditBRBasFr.h"
@@ -17,6 +15,8 @@
 #include "platform/edits/TFoneEditBR.h"
 #include "platform/edits/TMaskEditBR.h"
 #include "platform/toolkit/TMaskEdit.h"
+#include "support/CaixasDeVerdade.h"
+#include "support/NoDialogo.h"
 
 namespace ficha::testes
 {

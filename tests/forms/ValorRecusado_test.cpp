@@ -1,5 +1,5 @@
-#include "forms/CaixasDeVerdade.h"
 #include "forms/TelasDeTeste.h"
+#include "support/CaixasDeVerdade.h"
 
 #include <QTabBar>
 
