@@ -72,12 +72,16 @@ protected:
     }
     int Numero(const QString &sql) { return ValorDoBanco(conexao, sql).AsInteger(); }
 
-    /** The median time of something done once for each value, in milliseconds. */
+    /** The median time of something done once for each value, in milliseconds; what prepares each
+     * of them is not counted. */
     static double Mediana(const char *nome, const QStringList &valores,
-                          const std::function<void(const QString &)> &fazer)
+                          const std::function<void(const QString &)> &fazer,
+                          const std::function<void()> &preparar = {})
     {
         std::vector<double> tempos;
         for (const QString &valor : valores) {
+            if (preparar)
+                preparar();
             QElapsedTimer relogio;
             relogio.start();
             fazer(valor);
@@ -183,9 +187,20 @@ TEST_F(DesempenhoDoGuiaTest, LongListsCostTheirRowsAndNoMore)
     ASSERT_GE(fr->LogrComboBox->Count(), Ruas);
     fr->LogrComboBox->setFocus();
     QCoreApplication::processEvents();
-    Cobrado(Mediana("key that opens the list", {QStringLiteral("r")},
-                    [&](const QString &c) { QTest::keyClicks(fr->LogrComboBox, c); }),
-            100);
+    // A list reads its texts once: only the first key after it was filled pays for them.
+    const auto encher = [&] {
+        fr->LogrComboBox->SetDroppedDown(false);
+        fr->PreencherLogrComboBox(1);
+        fr->LogrComboBox->SetText(QString());
+        QCoreApplication::processEvents();
+        ASSERT_FALSE(fr->LogrComboBox->DroppedDown());
+    };
+    const auto abrir = [&](const QString &letra) {
+        QTest::keyClicks(fr->LogrComboBox, letra);
+        ASSERT_TRUE(fr->LogrComboBox->DroppedDown());
+    };
+    const QStringList letras(11, QStringLiteral("r"));
+    Cobrado(Mediana("key that opens the list", letras, abrir, encher), 100);
     EXPECT_TRUE(fr->LogrComboBox->DroppedDown());
     Cobrado(Mediana("key in the open list",
                     QStringLiteral("ua das flores 0499").split(QString(), Qt::SkipEmptyParts),

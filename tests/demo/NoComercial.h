@@ -12,16 +12,18 @@
 #include "support/BancoTemp.h"
 #include "support/Girar.h"
 #include "support/Layouts.h"
+#include "support/NoDialogo.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 namespace comercial::testes
 {
@@ -68,7 +70,13 @@ protected:
         janela.reset();
         ficha::ConexD().SQLConnection = nullptr;
     }
-    void TearDown() override { EXPECT_EQ(avisos, QStringList()); }
+    void TearDown() override
+    {
+        EXPECT_EQ(avisos, QStringList());
+        for (const auto &usuario : usuarios)
+            EXPECT_TRUE(usuario->Aberto()) << "no dialog was opened";
+        usuarios.clear();
+    }
 
     /** Opens a screen by its key. */
     void Abrir(Qt::Key tecla)
@@ -116,23 +124,21 @@ protected:
         Tecla(Qt::Key_End, Qt::ShiftModifier);
         Digitar(texto);
     }
-    /** Runs f in the modal window that the next key or click opens. */
+    /** Runs f in the modal window that the next key or click opens, once it has the keyboard. */
     void NoDialogo(std::function<void(QWidget *)> f)
     {
-        QTimer::singleShot(50, qApp, [this, f = std::move(f)] {
-            QWidget *dialogo = QApplication::activeModalWidget();
-            ASSERT_TRUE(dialogo) << "no dialog was opened";
-            ASSERT_TRUE(QTest::qWaitForWindowActive(dialogo));
-            ++dialogos;
-            f(dialogo);
-            // It stays visible until this handler ends.
-            auto *form = qobject_cast<ficha::TForm *>(dialogo);
-            if (form->GetModalResult() == ficha::mrNone)
-                QTest::keyClick(dialogo, Qt::Key_Escape);
-            EXPECT_NE(form->GetModalResult(), ficha::mrNone) << "Esc closes it";
-            if (form->GetModalResult() == ficha::mrNone)
-                form->SetModalResult(ficha::mrCancel);
-        });
+        using namespace ficha;
+        usuarios.push_back(std::make_unique<ficha::testes::TNoDialogo<TForm>>(
+            [this, f = std::move(f)](TForm &form) {
+                ++dialogos;
+                f(&form);
+                // It stays visible until this handler ends.
+                if (form.GetModalResult() == mrNone)
+                    QTest::keyClick(&form, Qt::Key_Escape);
+                EXPECT_NE(form.GetModalResult(), mrNone) << "Esc closes it";
+                if (form.GetModalResult() == mrNone)
+                    form.SetModalResult(mrCancel);
+            }));
     }
     QString DoBanco(const QString &sql) { return ficha::ValorDoBanco(conexao, sql).AsString(); }
 
@@ -144,6 +150,8 @@ protected:
     int perguntas = 0;
     bool responde = true;
     int dialogos = 0;
+    /** Of every dialog expected so far: a handler may expect another one while it runs. */
+    std::vector<std::unique_ptr<ficha::testes::TNoDialogo<ficha::TForm>>> usuarios;
     std::unique_ptr<TComercialF> janela;
     ficha::TForm *tela = nullptr;
 };

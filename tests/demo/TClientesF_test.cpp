@@ -347,8 +347,8 @@ TEST_F(TClientesFTest, APersonIsInsertedWithKeysAloneAndFoundAgain)
     QTest::mouseClick(Frame<TMaskEdit>("CEPMaskEdit"), Qt::LeftButton);
     Digitar(QStringLiteral("11085005"));
     Tecla(Qt::Key_Tab);
-    QTest::qWait(250);
-    EXPECT_EQ(QApplication::focusWidget(), Frame<QWidget>("NumLabeledEdit"))
+    const QWidget *numero = Frame<QWidget>("NumLabeledEdit");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == numero; }))
         << "the CEP has filled the rest";
     Digitar(QStringLiteral("42"));
     Tecla(Qt::Key_Return);

@@ -672,6 +672,11 @@ TEST_F(TDBClientBasFrTest, PartsMayGoFirstInAnyOrder)
                                                  outro.data(), janela.data()};
         for (const TParte parte : ordem) {
             delete partes[parte];
+            EXPECT_TRUE(partes[parte].isNull()) << parte;
+            if (parte == Frame || parte == Tela) {
+                EXPECT_TRUE(outro.isNull());
+                EXPECT_TRUE(cds.isNull() && fonte.isNull() && grade.isNull()) << "the frame's own";
+            }
             if (grade) {
                 QTest::keyClick(grade, Qt::Key_Down);
                 QTest::mouseClick(grade->viewport(), Qt::LeftButton, {}, QPoint(30, 30));
@@ -684,6 +689,8 @@ TEST_F(TDBClientBasFrTest, PartsMayGoFirstInAnyOrder)
             }
             QCoreApplication::processEvents();
         }
+        for (const QPointer<QObject> &parte : partes)
+            EXPECT_TRUE(parte.isNull());
     } while (std::next_permutation(ordem.begin(), ordem.end()));
 }
 
