@@ -205,20 +205,6 @@ bool Acha(QAnyStringView texto, QStringView dobrado, qsizetype ultimo)
 
 } // namespace
 
-bool TColacao::EhSimples(QAnyStringView texto)
-{
-    const TPesos &pesos = Pesos();
-    return texto.visit([&](auto t) {
-        if constexpr (std::is_same_v<decltype(t), QUtf8StringView>)
-            return EhSimples(t.toString());
-        else
-            return std::all_of(t.begin(), t.end(), [&](auto c) {
-                const char16_t u = QChar(c).unicode();
-                return u < Latinos && pesos.letra[u] != 0;
-            });
-    });
-}
-
 bool TColacao::AcrescentarChave(QAnyStringView texto, bool semCaixa,
                                 std::vector<unsigned char> &saida)
 {

@@ -19,8 +19,6 @@ namespace ficha
 class TColacao
 {
 public:
-    /** Whether the text is made of everyday letters alone. */
-    static bool EhSimples(QAnyStringView texto);
     /** Appends a text's key, of bytes from 1 up; false, nothing appended, for a text that needs the
      * collator. semCaixa leaves the case out: "a" and "A" are then equal. */
     static bool AcrescentarChave(QAnyStringView texto, bool semCaixa,

@@ -1,5 +1,6 @@
 #include "platform/database/FiltroDeTexto.h"
 
+#include "platform/core/Erros.h"
 #include "platform/database/Colacao.h"
 #include "platform/database/EDatabaseError.h"
 #include "platform/database/TDataSet.h"
@@ -37,18 +38,23 @@ bool Combina(QStringView texto, QStringView padrao)
     return p == padrao.size();
 }
 
-bool Serve(const QString &operador, int comparacao)
+/** Which outcomes of a comparison an operator lets through. */
+class TOperador
 {
-    if (operador == u"=")
-        return comparacao == 0;
-    if (operador == u"<>")
-        return comparacao != 0;
-    if (operador == u"<")
-        return comparacao < 0;
-    if (operador == u"<=")
-        return comparacao <= 0;
-    return operador == u">" ? comparacao > 0 : comparacao >= 0;
-}
+public:
+    explicit TOperador(QStringView s)
+        : menor(s.startsWith(u'<')), igual(s.endsWith(u'=')),
+          maior(s == u"<>" || s.startsWith(u'>'))
+    {
+    }
+    bool Serve(int comparacao) const
+    {
+        return comparacao < 0 ? menor : comparacao > 0 ? maior : igual;
+    }
+
+private:
+    bool menor, igual, maior;
+};
 
 /** Reads one filter from left to right. */
 class TLeitor
@@ -59,7 +65,7 @@ public:
     TPergunta Tudo()
     {
         TPergunta pergunta = Ou();
-        if (!peca.isEmpty())
+        if (!peca.isEmpty() || entreAspas)
             Recusar();
         return pergunta;
     }
@@ -94,10 +100,8 @@ private:
     {
         peca.clear();
         for (++fim; fim < texto.size(); ++fim) {
-            if (texto[fim] == u'\'' && (++fim >= texto.size() || texto[fim] != u'\'')) {
-                peca = peca.isEmpty() ? QStringLiteral("") : peca;
+            if (texto[fim] == u'\'' && (++fim >= texto.size() || texto[fim] != u'\''))
                 return;
-            }
             peca += texto[fim];
         }
         Recusar();
@@ -186,17 +190,16 @@ private:
         if (tipo == TFieldType::ftString || tipo == TFieldType::ftMemo) {
             if (!entreAspas)
                 Recusar();
-            return [campo, operador, dobrado = TColacao::Dobrar(peca)] {
-                return !campo->IsNull() &&
-                       Serve(operador, TColacao::Comparar(TColacao::Dobrar(campo->AsString()),
-                                                          dobrado, true));
+            return [campo, op = TOperador(operador), dobrado = TColacao::Dobrar(peca)] {
+                return !campo->IsNull() && op.Serve(TColacao::Comparar(
+                                               TColacao::Dobrar(campo->AsString()), dobrado, true));
             };
         }
-        return [campo, operador, numero = Numero(tipo)] {
+        return [campo, op = TOperador(operador), numero = Numero(tipo)] {
             if (campo->IsNull())
                 return false;
             const double v = campo->AsFloat();
-            return Serve(operador, v < numero ? -1 : v > numero ? 1 : 0);
+            return op.Serve(v < numero ? -1 : v > numero ? 1 : 0);
         };
     }
 
@@ -204,7 +207,11 @@ private:
     {
         if (entreAspas) {
             const bool deData = tipo == TFieldType::ftDate || tipo == TFieldType::ftDateTime;
-            return deData ? Variant(peca).AsDateTime().Dias() : Variant(peca).AsFloat();
+            try {
+                return deData ? Variant(peca).AsDateTime().Dias() : Variant(peca).AsFloat();
+            } catch (const EVariantError &) {
+                Recusar();
+            }
         }
         bool ok = false;
         const double numero = peca.toDouble(&ok);

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <exception>
 #include <limits>
 
 namespace ficha
@@ -56,6 +57,7 @@ struct TClientDataSet::TPrivado {
 
     std::vector<int> visiveis; /**< slots in the order shown, those the filter lets through */
     bool desordenado = false;  /**< rows at the end wait for EnableControls */
+    unsigned refeitas = 0;     /**< how often the list was made anew */
     struct TGuardada {
         TCriterio criterio;
         TOrdem ordem;
@@ -168,18 +170,22 @@ void TClientDataSet::Post()
         d->linhas.Gravar(slot, int(c), d->escrita[c]);
     d->ordens.clear();
     SairDaEdicao();
-    const bool passa = !filtrado || Passa(slot);
+    // A filter that fails hides nothing: the row is written and has to be somewhere.
+    bool passa = true;
+    std::exception_ptr falha;
+    try {
+        passa = !filtrado || Passa(slot);
+    } catch (...) {
+        falha = std::current_exception();
+    }
+    const unsigned refeitas = d->refeitas;
     if (nova && !ControlsDisabled())
         Q_EMIT BeforeScroll();
-    if (!nova)
-        d->visiveis.erase(d->visiveis.begin() + (RecNo() - 1));
-    if (passa)
-        Colocar(slot);
-    else
-        Renumerar(d->visiveis.empty() ? 0 : 1);
-    AvisarDados();
-    if (nova || SlotAtual() != slot)
-        AvisarRolagem();
+    // A handler may have closed the dataset, or had the list made anew, the row being in it.
+    if (Active() && d->refeitas == refeitas)
+        Mostrar(slot, nova, passa);
+    if (falha)
+        std::rethrow_exception(falha);
 }
 
 void TClientDataSet::Cancel()
@@ -198,6 +204,8 @@ void TClientDataSet::Delete()
         Recusar(QStringLiteral("Não há registro para excluir."));
     if (!ControlsDisabled())
         Q_EMIT BeforeScroll();
+    if (RecNo() == 0)
+        return; // a handler closed or emptied the list
     const int linha = RecNo(), slot = SlotAtual();
     d->ids[size_t(slot)] = 0;
     d->linhas.Limpar(slot);
@@ -230,6 +238,7 @@ void TClientDataSet::EmptyDataSet()
     d->ordens.clear();
     d->visiveis = {};
     d->desordenado = false;
+    ++d->refeitas;
     if (!Active())
         return;
     Renumerar(0);
@@ -308,6 +317,12 @@ void TClientDataSet::SetFiltered(bool v)
 void TClientDataSet::AtualizarFiltro()
 {
     if (filtrado)
+        Reordenar();
+}
+
+void TClientDataSet::PorEmOrdem()
+{
+    if (d->desordenado)
         Reordenar();
 }
 
@@ -430,8 +445,7 @@ void TClientDataSet::EncerrarEdicao()
 
 void TClientDataSet::AntesDeHabilitar()
 {
-    if (d->desordenado)
-        Reordenar();
+    PorEmOrdem();
 }
 
 const TIndexDef *TClientDataSet::Indice(const QString &nome) const
@@ -528,6 +542,20 @@ std::vector<TClientDataSet::TAlvo> TClientDataSet::Alvos(const QString &nomes,
     return alvos;
 }
 
+/** Lists a row that was just written, and announces it. */
+void TClientDataSet::Mostrar(int slot, bool nova, bool passa)
+{
+    if (!nova)
+        d->visiveis.erase(d->visiveis.begin() + (RecNo() - 1));
+    if (passa)
+        Colocar(slot);
+    else
+        Renumerar(d->visiveis.empty() ? 0 : 1);
+    AvisarDados();
+    if (nova || SlotAtual() != slot)
+        AvisarRolagem();
+}
+
 bool TClientDataSet::Serve(int slot, const TAlvo &alvo) const
 {
     if (!alvo.comoTexto || d->linhas.Nula(slot, alvo.coluna))
@@ -610,16 +638,21 @@ void TClientDataSet::Refazer()
         std::erase_if(novas, [&](int slot) { return !passam[size_t(slot)]; });
     }
     if (filtrado && (d->filtroDeTexto || d->pergunta))
-        std::erase_if(novas, [this](int slot) { return !Passa(slot); });
+        std::erase_if(novas, [this](int slot) { return !PassaPerguntas(slot); });
     d->visiveis = std::move(novas);
     d->desordenado = false;
+    ++d->refeitas;
 }
 
-/** Whether the filters let a row through, its values being the fields' meanwhile. */
+/** Whether the filters let a row through. */
 bool TClientDataSet::Passa(int slot)
 {
-    if (!PassaDigitado(slot))
-        return false;
+    return PassaDigitado(slot) && PassaPerguntas(slot);
+}
+
+/** Whether the filters in words and questions do, the row's values being the fields' meanwhile. */
+bool TClientDataSet::PassaPerguntas(int slot)
+{
     if (!d->filtroDeTexto && !d->pergunta)
         return true;
     struct TAparte {

@@ -86,7 +86,8 @@ public:
     /** EDatabaseError without a current row. */
     void Edit();
     /** Writes the row; it becomes the current one, or the first row does where the filter does not
-     * let it through. EDatabaseError outside of an edit state. */
+     * let it through. EDatabaseError outside of an edit state. A filter that raises does not keep
+     * the row from being written and shown: the caller learns of it afterwards. */
     void Post();
     /** Back to the row that was current. Nothing outside of an edit state. */
     void Cancel();
@@ -130,6 +131,9 @@ public:
     void SetFiltered(bool v);
     /** Asks again: what the filter looks at beside the rows is another one now. */
     void AtualizarFiltro();
+    /** Rows posted under an index while controls are disabled go to their places now, instead of
+     * with EnableControls. The current row stays. */
+    void PorEmOrdem();
 
     /**
      * Makes the first row with these values current, in the order shown. Fields are named "a;b".
@@ -172,6 +176,7 @@ private:
     Variant Converter(const TField &campo, const Variant &valor) const;
     std::vector<TAlvo> Alvos(const QString &nomes, const std::vector<Variant> &valores,
                              unsigned opcoes) const;
+    void Mostrar(int slot, bool nova, bool passa);
     bool Serve(int slot, const TAlvo &alvo) const;
     bool ServemTodos(int slot, const std::vector<TAlvo> &alvos) const;
     bool PassaDigitado(int slot) const;
@@ -181,6 +186,7 @@ private:
     void Reordenar();
     void Refazer();
     bool Passa(int slot);
+    bool PassaPerguntas(int slot);
     void Colocar(int slot);
     void FicarEm(int slot);
     void CompactarSeValer();

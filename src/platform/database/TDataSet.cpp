@@ -237,8 +237,7 @@ TField *TDataSet::CampoDaColuna(const QString &nome)
         if (campo->fieldName == livre)
             return campo.get();
     }
-    campos.push_back(std::make_unique<TField>(this, livre));
-    return campos.back().get();
+    return NovoCampo({livre, TFieldType::ftUnknown, 0, 0});
 }
 
 void TDataSet::IrPara(int linha)

@@ -23,6 +23,9 @@ namespace ficha
  *
  * Row numbers run from 1; RecNo() is 0 when there is no row. A closed dataset has no rows and
  * answers every question as an empty one does.
+ *
+ * The handlers of a dataset's events may close it and open it. They must not delete it, except that
+ * of BeforeOpen: deleteLater is the way.
  */
 class TDataSet : public QObject
 {
