@@ -40,12 +40,10 @@ double Somar(TArvItem *item)
     return soma;
 }
 
-QString SemAcentos(const QString &texto)
+/** As Localizar compares. */
+QString Plano(const QString &texto)
 {
-    QString plano = texto.toUpper();
-    for (QChar &letra : plano)
-        letra = CharSemAcento(letra, QString(), true, true);
-    return plano;
+    return TextoSemAcentos(texto.toUpper());
 }
 
 } // namespace
@@ -144,15 +142,14 @@ TConta *TContasFr::Atual() const
 
 bool TContasFr::Localizar(const QString &texto)
 {
-    const QString procurado = SemAcentos(texto.trimmed());
+    const QString procurado = Plano(texto.trimmed());
     QList<TConta *> ordem = Todas();
     if (procurado.isEmpty() || ordem.isEmpty())
         return false;
     const qsizetype atual = ordem.indexOf(Atual());
     std::rotate(ordem.begin(), ordem.begin() + (atual + 1) % ordem.size(), ordem.end());
     const auto achada = std::ranges::find_if(ordem, [&](const TConta *conta) {
-        return conta->Codigo.startsWith(procurado) ||
-               SemAcentos(conta->Descricao).contains(procurado);
+        return conta->Codigo.startsWith(procurado) || Plano(conta->Descricao).contains(procurado);
     });
     if (achada == ordem.end())
         return false;

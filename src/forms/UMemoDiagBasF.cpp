@@ -25,7 +25,7 @@ void TMemoDiagBasF::PegarComponentes()
     Pegar(this, MemoTitLab, "MemoTitLab");
     Pegar(this, Memo1, "Memo1");
     AoTeclar(Memo1, [this](QChar &caractere) { Memo1KeyPress(Memo1, caractere); });
-    Memo1->OnPaste = &TMemoDiagBasF::TirarAcentos;
+    Memo1->OnPaste = [](QString &texto) { texto = TextoSemAcentos(texto); };
 }
 
 void TMemoDiagBasF::FormShow(QObject *sender)
@@ -46,12 +46,6 @@ void TMemoDiagBasF::OkClick(QObject *sender)
 void TMemoDiagBasF::Memo1KeyPress(QObject *, QChar &caractere)
 {
     caractere = caractere.isMark() ? QChar() : CharSemAcento(caractere, {}, true, true);
-}
-
-void TMemoDiagBasF::TirarAcentos(QString &texto)
-{
-    for (QChar &c : texto)
-        c = CharSemAcento(c, {}, true, true);
 }
 
 } // namespace ficha

@@ -41,9 +41,6 @@ protected:
     void OkClick(QObject *sender) override;
     /** Takes the accent off; an accent of its own (a combining mark) is swallowed. */
     virtual void Memo1KeyPress(QObject *sender, QChar &caractere);
-
-private:
-    static void TirarAcentos(QString &texto);
 };
 
 } // namespace ficha

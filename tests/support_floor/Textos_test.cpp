@@ -118,6 +118,13 @@ TEST(Textos, CEPComMascUsesTheFirstEightDigits)
     EXPECT_EQ(CEPComMasc(QString()), QString());
 }
 
+TEST(Textos, TextoSemAcentosTakesThemOffEveryLetter)
+{
+    EXPECT_EQ(TextoSemAcentos(QStringLiteral("Ação É ÀÜ, nº 1 œ")),
+              QStringLiteral("Acao E AU, nº 1 œ"));
+    EXPECT_EQ(TextoSemAcentos(QString()), QString());
+}
+
 TEST(Textos, QuotedStrDoublesTheQuotesInside)
 {
     EXPECT_EQ(QuotedStr(QStringLiteral("O'Brien")), QStringLiteral("'O''Brien'"));

@@ -1,5 +1,7 @@
 #include "platform/core/Documentos.h"
 
+#include "platform/core/Caracteres.h"
+
 #include <algorithm>
 #include <array>
 #include <iterator>
@@ -15,11 +17,6 @@ constexpr int TamCNPJ = 14;
 constexpr int TamCEP = 8;
 constexpr int TamPrefixoCEP = 5;
 constexpr int TamVerificadores = 2;
-
-bool EhDigito(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
 
 bool EhCapital(QChar c)
 {
@@ -43,16 +40,6 @@ QString SemSeparadores(const QString &texto)
     if (nu.isEmpty() || EhSeparador(nu.front()) || EhSeparador(nu.back()))
         return nu;
     return nu.removeIf(EhSeparador);
-}
-
-/** The small letters a to z only: others have capitals among A to Z too. */
-QString EmCapitais(QString texto)
-{
-    for (QChar &c : texto) {
-        if (c >= u'a' && c <= u'z')
-            c = QChar(char16_t(c.unicode() - u'a' + u'A'));
-    }
-    return texto;
 }
 
 /** Whether a text is the first characters of a CNPJ, whose check digits are digits. */
@@ -189,7 +176,7 @@ bool CNPJValido(const QString &texto)
 
 QString DigitosCNPJ(const QString &base)
 {
-    const QString nu = EmCapitais(SemSeparadores(base));
+    const QString nu = MaiusculasASCII(SemSeparadores(base));
     if (nu.size() != TamCNPJ - TamVerificadores || !FormaDeCNPJ(nu))
         return {};
     return DoisDigitos(nu, MaiorPesoCNPJ);
@@ -206,7 +193,7 @@ QString CNPJComMasc(const QString &texto)
 
 QString CNPJSemMasc(const QString &texto)
 {
-    const QString nu = EmCapitais(SemSeparadores(texto));
+    const QString nu = MaiusculasASCII(SemSeparadores(texto));
     return nu.size() == TamCNPJ && FormaDeCNPJ(nu) ? nu : QString();
 }
 

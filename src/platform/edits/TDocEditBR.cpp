@@ -1,5 +1,6 @@
 #include "platform/edits/TDocEditBR.h"
 
+#include "platform/core/Caracteres.h"
 #include "platform/support/Textos.h"
 
 #include <QKeyEvent>
@@ -14,11 +15,6 @@ namespace ficha
 
 namespace
 {
-
-bool EhDigito(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
 
 bool EhLugar(QChar c)
 {

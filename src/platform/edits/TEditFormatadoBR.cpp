@@ -1,5 +1,7 @@
 #include "platform/edits/TEditFormatadoBR.h"
 
+#include "platform/core/Caracteres.h"
+
 #include <QFocusEvent>
 
 #include <algorithm>
@@ -13,7 +15,7 @@ namespace
 /** Not a separator, in a text that is in form. */
 bool EhCaractere(QChar c)
 {
-    return (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z');
+    return EhDigito(c) || (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z');
 }
 
 int CaracteresAntes(const QString &texto, int posicao)

@@ -1,5 +1,6 @@
 #include "platform/edits/TFoneEditBR.h"
 
+#include "platform/core/Documentos.h"
 #include "platform/support/Textos.h"
 #include "platform/toolkit/Layout.h"
 
@@ -20,8 +21,8 @@ constexpr int DigitosCelular = 9;
 bool EhNumero(const QString &texto)
 {
     return std::all_of(texto.begin(), texto.end(), [](QChar c) {
-        return (c >= u'0' && c <= u'9') || c == u'-' || c == u' ' || c == u'.' || c == u'(' ||
-               c == u')' || c == QChar::Nbsp;
+        return EhDigito(c) || c == u'-' || c == u' ' || c == u'.' || c == u'(' || c == u')' ||
+               c == QChar::Nbsp;
     });
 }
 
@@ -57,8 +58,7 @@ bool TFoneEditBR::TemLugar(const QString &nu) const
 
 bool TFoneEditBR::Completo(const QString &nu) const
 {
-    const bool fixo = !nu.isEmpty() && nu.front() >= u'2' && nu.front() <= u'5';
-    return nu.size() == DigitosCelular || (fixo && nu.size() == DigitosFixo);
+    return nu.size() == DigitosCelular || TipoDoFone(nu) == TTipoFone::Fixo;
 }
 
 bool TFoneEditBR::FormataDoPrograma(const QString &texto) const

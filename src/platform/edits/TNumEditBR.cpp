@@ -1,5 +1,6 @@
 #include "platform/edits/TNumEditBR.h"
 
+#include "platform/core/Caracteres.h"
 #include "platform/core/Erros.h"
 #include "platform/toolkit/Layout.h"
 
@@ -282,8 +283,7 @@ TCustomEdit::TResposta TNumEditBR::Colar(const TEstado &antes, const QString &te
         return {std::nullopt,
                 QStringLiteral("\"%1\" não é um número e não foi colado.").arg(texto)};
     const QString nu = texto.trimmed();
-    const bool soDigitos =
-        std::all_of(nu.begin(), nu.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    const bool soDigitos = std::all_of(nu.begin(), nu.end(), EhDigito);
     if (soDigitos && !antes.TudoSelecionado())
         return ColarDigitos(antes, nu);
     if (decimal->Decimais.size() > formato.Casas)

@@ -1,5 +1,6 @@
 #include "platform/edits/TTextoNumerico.h"
 
+#include "platform/core/Caracteres.h"
 #include "platform/core/Variant.h"
 
 #include <QStringList>
@@ -16,11 +17,6 @@ namespace
 
 constexpr int DigitosDoUsuario = 15;
 constexpr int DigitosDoPrograma = 18;
-
-bool EhDigito(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
 
 bool SoDigitos(QStringView texto)
 {

@@ -1,5 +1,6 @@
 #include "platform/support/TGridColsInfo.h"
 
+#include "platform/core/Caracteres.h"
 #include "platform/support/StringGridDrawCell.h"
 #include "platform/toolkit/TStringGrid.h"
 
@@ -36,11 +37,6 @@ struct TLetras {
             letra[--n] = 0;
     }
 };
-
-bool EhDigito(char16_t c)
-{
-    return c >= u'0' && c <= u'9';
-}
 
 int ContarDigitos(const char16_t *p)
 {

@@ -8,11 +8,6 @@ namespace ficha
 namespace
 {
 
-bool EhDigito(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
-
 /** The letter under all its marks; the character itself when it carries none. */
 QChar LetraBase(QChar c)
 {
@@ -82,6 +77,13 @@ QChar CharSemAcento(QChar c, const QString &excecoes, bool minusculas, bool maiu
     return base.unicode() < 0x80 ? base : c;
 }
 
+QString TextoSemAcentos(QString texto)
+{
+    for (QChar &c : texto)
+        c = CharSemAcento(c);
+    return texto;
+}
+
 QString CEPComMasc(const QString &cep)
 {
     constexpr int AntesDoHifen = 5;
@@ -104,15 +106,6 @@ QString QuotedStr(const QString &texto)
     }
     literal += u'\'';
     return literal;
-}
-
-QString MaiusculasASCII(QString texto)
-{
-    for (QChar &c : texto) {
-        if (c >= u'a' && c <= u'z')
-            c = QChar(char16_t(c.unicode() - u'a' + u'A'));
-    }
-    return texto;
 }
 
 } // namespace ficha

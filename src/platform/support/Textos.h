@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/core/Caracteres.h"
 #include "platform/support/FormatFloat.h"
 
 #include <QString>
@@ -38,6 +39,8 @@ QString IntToStrZero(qint64 n, int tam);
  */
 QChar CharSemAcento(QChar c, const QString &excecoes = {}, bool minusculas = true,
                     bool maiusculas = true);
+/** A text with every letter so. */
+QString TextoSemAcentos(QString texto);
 
 /** A CEP as "99999-999", from its first eight digits, masked or not. Fewer digits are shown as far
  * as they go: "16015" without a hyphen, "16015-2". */
@@ -45,8 +48,5 @@ QString CEPComMasc(const QString &cep);
 
 /** A text as an SQL literal: quotes inside doubled, the whole in single quotes. */
 QString QuotedStr(const QString &texto);
-
-/** The letters a to z as capitals; every other character, accented letters too, as it is. */
-QString MaiusculasASCII(QString texto);
 
 } // namespace ficha
