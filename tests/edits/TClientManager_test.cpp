@@ -93,6 +93,26 @@ TEST_F(TClientManagerTest, NothingIsAnnouncedForEachRowThatIsRead)
     EXPECT_EQ(dados.count(), 1);
 }
 
+TEST_F(TClientManagerTest, ALoadedListAnnouncesItsFirstRowOnce)
+{
+    QStringList vistas;
+    QObject::connect(lista.CDS1, &TDataSet::AfterScroll, [&] {
+        vistas << lista.CDS1->FieldByName(QStringLiteral("nome"))->AsString();
+    });
+    lista.Carregar();
+    EXPECT_EQ(vistas, L("b")) << "details are read once, and for no other row";
+    lista.CDS1->Last();
+    vistas.clear();
+    lista.Carregar();
+    EXPECT_EQ(vistas, L("b"));
+    Clicar("nome");
+    vistas.clear();
+    lista.Carregar();
+    EXPECT_EQ(vistas, L("á")) << "the first one of the order";
+    EXPECT_EQ(lista.CDS1->RecNo(), 1);
+    EXPECT_EQ(Nomes(), QStringLiteral("ábC"));
+}
+
 TEST_F(TClientManagerTest, TitlesSortRisingAndFallingInTurn)
 {
     lista.Carregar();

@@ -76,6 +76,11 @@ void TClientManager::Carregar()
         const TCalado calado(CDS1);
         CDS1->EmptyDataSet();
         Chamar(OnListUpDate, this);
+        if (vivo && CDS1) {
+            // Sorted first: the row that is first now need not stay it.
+            CDS1->PorEmOrdem();
+            CDS1->First();
+        }
     } catch (...) {
         // Half a list would be taken for the whole one.
         if (vivo && CDS1)
@@ -85,7 +90,6 @@ void TClientManager::Carregar()
     if (!vivo || !CDS1)
         return;
     vencida = false;
-    CDS1->First();
     Q_EMIT Carregou();
 }
 
