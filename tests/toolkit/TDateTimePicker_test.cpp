@@ -4,6 +4,7 @@
 #include "platform/toolkit/TMonthCalendar.h"
 #include "platform/toolkit/Teclas.h"
 #include "support/Girar.h"
+#include "support/TrocaDeHandler.h"
 #include "support/Widgets.h"
 
 #include <QLineEdit>
@@ -539,6 +540,39 @@ TEST_F(DateTimePicker, HandlersMayDestroyIt)
     data->OnChange = [&](QObject *) { delete data; };
     Digitar("1");
     EXPECT_TRUE(vivo.isNull());
+}
+
+TEST_F(DateTimePicker, HandlersMayTakeThemselvesOut)
+{
+    Abrir();
+    EXPECT_TRUE(InteiroAoSair(data->OnChange, [this] { Digitar("1"); }));
+    EXPECT_TRUE(InteiroAoSair(data->OnClick, [this] {
+        QTest::mouseClick(data->findChild<QLineEdit *>(), Qt::LeftButton, {}, QPoint(5, 8));
+    }));
+    EXPECT_TRUE(InteiroAoSair(data->OnDropDown, [this] { data->SetDroppedDown(true); }));
+    EXPECT_TRUE(InteiroAoSair(data->OnCloseUp, [this] {
+        data->SetDroppedDown(false);
+        Girar();
+    }));
+}
+
+TEST_F(DateTimePicker, TheHandlerOfTheCalendarMayForbidItOrOpenItItself)
+{
+    Abrir();
+    data->OnDropDown = [this](QObject *) { data->setReadOnly(true); };
+    ClicarSeta();
+    EXPECT_FALSE(data->DroppedDown());
+    EXPECT_FALSE(QApplication::activePopupWidget());
+    data->setReadOnly(false);
+    int vezes = 0;
+    data->OnDropDown = [&](QObject *) {
+        if (++vezes == 1)
+            data->SetDroppedDown(true);
+    };
+    data->SetDroppedDown(true);
+    EXPECT_TRUE(data->DroppedDown());
+    EXPECT_EQ(vezes, 2);
+    EXPECT_EQ(data->findChildren<TMonthCalendar *>().size(), 1) << "one calendar, not two";
 }
 
 TEST_F(DateTimePicker, ItMayGoWhileItsCalendarIsOpen)

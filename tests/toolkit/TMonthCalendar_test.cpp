@@ -1,6 +1,7 @@
 #include "platform/toolkit/TMonthCalendar.h"
 
 #include "platform/core/Relogio.h"
+#include "support/TrocaDeHandler.h"
 #include "support/Widgets.h"
 
 #include <QLabel>
@@ -262,6 +263,13 @@ TEST_F(MonthCalendar, TheSelectedDayIsMarkedSoftlyWithoutTheFocus)
     grade->clearFocus();
     EXPECT_NE(fundo(), cal->palette().color(QPalette::Highlight));
     EXPECT_NE(fundo(), cal->palette().color(QPalette::Base)) << "but marked";
+}
+
+TEST_F(MonthCalendar, HandlersMayTakeThemselvesOut)
+{
+    EXPECT_TRUE(InteiroAoSair(cal->OnClick, [this] { QTest::keyClick(grade, Qt::Key_Right); }));
+    // 11/03/2024 is the Monday of the third week shown.
+    EXPECT_TRUE(InteiroAoSair(cal->OnDblClick, [this] { ClicarDuas(3, 1); }));
 }
 
 TEST_F(MonthCalendar, AHandlerMayDestroyTheCalendarOrFail)

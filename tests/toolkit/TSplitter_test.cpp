@@ -2,6 +2,7 @@
 
 #include "platform/toolkit/Layout.h"
 #include "platform/toolkit/TPanel.h"
+#include "support/TrocaDeHandler.h"
 #include "support/Widgets.h"
 
 namespace ficha::testes
@@ -132,6 +133,15 @@ TEST_F(TSplitterTest, AFailingHandlerIsReportedAndTheBarGoesOn)
     Arrastar(124, 134);
     EXPECT_EQ(erros, 2);
     EXPECT_EQ(painel->width(), 130);
+}
+
+TEST_F(TSplitterTest, TheHandlerMayTakeItselfOutOrDestroyTheBar)
+{
+    EXPECT_TRUE(InteiroAoSair(barra->OnMoved, [this] { Arrastar(104, 124); }));
+    const QPointer<TSplitter> viva(barra);
+    barra->OnMoved = [this](QObject *) { delete barra; };
+    Arrastar(124, 134);
+    EXPECT_TRUE(viva.isNull());
 }
 
 TEST_F(TSplitterTest, BeveledShowsRaisedEdges)

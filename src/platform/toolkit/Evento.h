@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <functional>
+#include <type_traits>
 #include <utility>
 
 namespace ficha
@@ -23,6 +25,14 @@ bool Protegido(F &&f) noexcept
         ReportarErro(std::current_exception());
         return false;
     }
+}
+
+/** Calls a handler that an object keeps for one of its events, Protegido; nothing without one. The
+ * handler may set another one in its place or destroy the object. */
+inline void Disparar(const std::function<void(QObject *)> &evento, QObject *sender)
+{
+    if (const auto handler = evento)
+        Protegido([&] { handler(sender); });
 }
 
 /** Connects a signal to a handler that runs Protegido; it lives as long as both objects do. */

@@ -1,5 +1,6 @@
 #include "platform/toolkit/TDateTimePicker.h"
 
+#include "platform/core/Caracteres.h"
 #include "platform/core/Relogio.h"
 #include "platform/toolkit/AvisarUsuario.h"
 #include "platform/toolkit/EntradaDeTexto.h"
@@ -255,16 +256,13 @@ void TDateTimePicker::SetDroppedDown(bool aberto)
     }
     const QPointer<TDateTimePicker> vivo(this);
     Concluir();
-    if (OnDropDown)
-        Protegido([this] { OnDropDown(this); });
-    if (!vivo)
+    Disparar(OnDropDown, this);
+    // The handler may have opened the calendar itself, or forbidden the field.
+    if (!vivo || DroppedDown() || isReadOnly())
         return;
     auto *novo = new TCalendarioSuspenso(this, date());
     novo->AoEscolher = [this](QDate dia) { Escolhido(dia); };
-    novo->AoFechar = [this] {
-        if (OnCloseUp)
-            Protegido([this] { OnCloseUp(this); });
-    };
+    novo->AoFechar = [this] { Disparar(OnCloseUp, this); };
     calendario = novo;
     novo->Abrir();
 }
@@ -335,8 +333,8 @@ bool TDateTimePicker::eventFilter(QObject *alvo, QEvent *evento)
     } else if (mouse->button() == Qt::LeftButton) {
         if (!lineEdit()->hasSelectedText())
             SelecionarParte(currentSectionIndex());
-        if (OnClick && lineEdit()->rect().contains(mouse->position().toPoint()))
-            Protegido([this] { OnClick(this); });
+        if (lineEdit()->rect().contains(mouse->position().toPoint()))
+            Disparar(OnClick, this);
     }
     return !vivo || QDateEdit::eventFilter(alvo, evento);
 }
@@ -491,7 +489,7 @@ void TDateTimePicker::paintEvent(QPaintEvent *)
 
 void TDateTimePicker::Digitar(QChar c)
 {
-    if (c >= u'0' && c <= u'9')
+    if (EhDigito(c))
         DigitarAlgarismo(c);
     else if (QStringView(u"/-.,").contains(c))
         Separador();
@@ -622,8 +620,7 @@ bool TDateTimePicker::Trocar(QDate nova)
 void TDateTimePicker::Anunciar(TMudanca como)
 {
     const QPointer<TDateTimePicker> vivo(this);
-    if (OnChange)
-        Protegido([this] { OnChange(this); });
+    Disparar(OnChange, this);
     if (vivo)
         Q_EMIT UserChanged(como);
 }

@@ -179,8 +179,8 @@ bool TMonthCalendar::CliqueDuplo(const QMouseEvent &evento)
     const QModelIndex dia = grade->indexAt(evento.position().toPoint());
     const bool noDia =
         evento.button() == Qt::LeftButton && dia.isValid() && dia == grade->currentIndex();
-    if (noDia && OnDblClick)
-        Protegido([this] { OnDblClick(this); });
+    if (noDia)
+        Disparar(OnDblClick, this);
     return true;
 }
 
@@ -197,8 +197,8 @@ void TMonthCalendar::PaginaVirada()
 
 void TMonthCalendar::Escolhido()
 {
-    if (!calado && OnClick)
-        OnClick(this);
+    if (!calado)
+        Disparar(OnClick, this);
 }
 
 } // namespace ficha

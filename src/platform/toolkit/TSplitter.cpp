@@ -65,8 +65,8 @@ void TSplitter::mouseReleaseEvent(QMouseEvent *evento)
         return;
     const bool mudou = arrastado->width() != larguraInicial;
     arrastado = nullptr;
-    if (mudou && OnMoved)
-        Protegido([this] { OnMoved(this); });
+    if (mudou)
+        Disparar(OnMoved, this);
 }
 
 /** The control whose right edge the bar touches. */
