@@ -556,3 +556,17 @@ TEST(DBGridDrawCell, PlacesTextsAndTellsOddFromEven)
     EXPECT_TRUE(NumEhImpar(-3));
     EXPECT_FALSE(NumEhImpar(-4));
 }
+
+TEST_F(TDBGridTest, AColumnWithoutAFieldIsNotTheSortColumnOfAnUnsortedList)
+{
+    TColumn *semCampo = grid->AddColumn(QString());
+    QImage foto(64, 36, QImage::Format_RGB32);
+    QPainter p(&foto);
+    const auto fundo = [&](const QString &ordem) {
+        DBGridDrawColumnCell(p, QRect(0, 18, 60, 17), *semCampo, 0, {ordem});
+        return foto.pixelColor(30, 30);
+    };
+    EXPECT_EQ(fundo(QString()), fundo(QStringLiteral("nome")));
+    DBGridReservarSeta(*grid, QString());
+    EXPECT_EQ(semCampo->Title.GetRightMargin(), 0);
+}

@@ -34,7 +34,18 @@ bool EhData(TFieldType tipo)
 
 bool EhDoCampo(const TColumn &column, const QString &campo)
 {
-    return column.GetFieldName().compare(campo, Qt::CaseInsensitive) == 0;
+    return !campo.isEmpty() && column.GetFieldName().compare(campo, Qt::CaseInsensitive) == 0;
+}
+
+int XDir(const QRect &rect, int largura)
+{
+    return rect.left() + rect.width() - largura;
+}
+
+int XCentro(const QRect &rect, int largura)
+{
+    const int sobra = rect.width() - largura;
+    return rect.left() + (sobra >= 0 ? sobra / 2 : (sobra - 1) / 2);
 }
 
 TColor CorDaFaixa(const QRect &rect, bool daOrdem)
@@ -52,12 +63,14 @@ void Escrever(QPainter &p, const QRect &rect, const QString &texto, TAlignment a
     p.setPen(cor.ParaQColor());
     const QRect area = rect.adjusted(Margem, AlturaDoTexto, -Margem, 0);
     const QFontMetrics medida = p.fontMetrics();
-    if (medida.horizontalAdvance(texto.left(area.width() + 1)) > area.width()) {
+    // Of a longer text the beginning is measured, which is more than fits.
+    const int largura = medida.horizontalAdvance(texto.left(area.width() + 1));
+    if (largura > area.width()) {
         EscreverNaCelula(p, area, texto, Qt::AlignLeft | Qt::AlignTop);
         return;
     }
-    const int x = alinhamento == taRightJustify ? XDir(p, rect, texto) - Margem
-                  : alinhamento == taCenter     ? XCentro(p, rect, texto)
+    const int x = alinhamento == taRightJustify ? XDir(rect, largura) - Margem
+                  : alinhamento == taCenter     ? XCentro(rect, largura)
                                                 : rect.left() + Margem;
     p.drawText(x, area.top() + medida.ascent(), texto);
 }
@@ -66,13 +79,12 @@ void Escrever(QPainter &p, const QRect &rect, const QString &texto, TAlignment a
 
 int XDir(const QPainter &p, const QRect &rect, const QString &texto)
 {
-    return rect.left() + rect.width() - p.fontMetrics().horizontalAdvance(texto);
+    return XDir(rect, p.fontMetrics().horizontalAdvance(texto));
 }
 
 int XCentro(const QPainter &p, const QRect &rect, const QString &texto)
 {
-    const int sobra = rect.width() - p.fontMetrics().horizontalAdvance(texto);
-    return rect.left() + (sobra >= 0 ? sobra / 2 : (sobra - 1) / 2);
+    return XCentro(rect, p.fontMetrics().horizontalAdvance(texto));
 }
 
 QString TextoParaLista(const TField &campo, bool mostrarDataNula)
@@ -95,8 +107,7 @@ void DBGridDrawColumnCell(QPainter &p, const QRect &rect, const TColumn &column,
 {
     const TField *campo = column.Field();
     const QString texto = campo ? TextoParaLista(*campo, pintura.MostrarDataNula) : QString();
-    const bool daOrdem =
-        column.GetFieldName().compare(pintura.CampoOrdem, Qt::CaseInsensitive) == 0;
+    const bool daOrdem = EhDoCampo(column, pintura.CampoOrdem);
     p.fillRect(rect.adjusted(-1, -1, 1, 1), CorDaFaixa(rect, daOrdem).ParaQColor());
     if (estado & gdSelecionada) {
         p.fillRect(rect, CoresDaGrade().CelulaAtual.ParaQColor());
