@@ -4,6 +4,7 @@
 
 #include <QBuffer>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace ficha;
@@ -287,4 +288,20 @@ TEST_F(TArquivoDeImagemTest, APhotoOfMoreThanThirtyMillionPixelsIsShownSmaller)
     EXPECT_EQ(lida.Tamanho(), QSize(8'000, 3'800));
     const QSize natural = lida.LerNatural().size();
     EXPECT_EQ(natural, QSize(7'000, 3'325)) << "by seven eighths";
+}
+
+TEST_F(TArquivoDeImagemTest, AFileThatCannotBeOpenedIsToldSo)
+{
+    const QString a = pasta.Gravar(QStringLiteral("a.jpg"), QByteArray("um"));
+    // Whose file it is stops no administrator; having no file left to open does.
+    rlimit antes{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &antes), 0);
+    rlimit nenhum = antes;
+    nenhum.rlim_cur = 0;
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &nenhum), 0);
+    const QString recusa = Recusa(a);
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &antes), 0);
+    EXPECT_EQ(recusa, QStringLiteral("A imagem não pode ser mostrada: o arquivo não pode ser lido."
+                                     "\r\nArquivo: ") +
+                          a);
 }

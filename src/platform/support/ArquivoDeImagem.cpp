@@ -140,7 +140,7 @@ void TArquivoDeImagem::LerBytes()
         Recusar(QStringLiteral("o arquivo não existe"));
     QFile arquivo(caminho);
     if (!arquivo.open(QIODevice::ReadOnly))
-        Recusar(QStringLiteral("o arquivo não pode ser lido "));
+        Recusar(QStringLiteral("o arquivo não pode ser lido"));
     if (arquivo.size() > MaisBytes)
         Recusar(GrandeDemais());
     bytes = arquivo.readAll();
