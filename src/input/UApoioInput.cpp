@@ -3,6 +3,8 @@
 #include "platform/support/Textos.h"
 #include "platform/toolkit/Teclas.h"
 
+#include <QWidget>
+
 namespace ficha
 {
 
@@ -37,7 +39,7 @@ QString SQLDoCaractere(int n)
 
 void AvancarComEnter(int &tecla, QWidget &para)
 {
-    if (tecla != VK_RETURN)
+    if (tecla != VK_RETURN || !para.isVisible() || !para.isEnabled())
         return;
     // First: what is left may open a message box and be gone behind it.
     tecla = 0;
@@ -51,6 +53,11 @@ QString TextoForaDosLimites(const QString &rotulo, int minimo, int maximo)
     return inicio + QStringLiteral(" estar entre ") + QString::number(minimo) +
            QStringLiteral(" e ") + QString::number(maximo) +
            QStringLiteral(". Ajuste o seu valor ou clique em Cancelar.");
+}
+
+QString TextoDocumentoInvalido(const QString &documento)
+{
+    return documento + QStringLiteral(" Inválido\r\nDigite o valor correto ou clique em Cancelar.");
 }
 
 } // namespace ficha

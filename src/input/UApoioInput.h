@@ -31,11 +31,13 @@ bool IniciaEdicao(QChar caractere);
 QString SQLDoCaractere(int n);
 
 /** Enter goes on to another input, entered as by Tab, and is used up: no default button of the form
- * hears it. Other keys pass. */
+ * hears it. Other keys pass, and so does Enter where that input is hidden or disabled. */
 void AvancarComEnter(int &tecla, QWidget &para);
 
 /** The refusal of a number outside its bounds; both are named, enforced or not. Without a label it
  * begins with "Deve". */
 QString TextoForaDosLimites(const QString &rotulo, int minimo, int maximo);
+/** The refusal of an identifier that is none, by its name ("CPF"). */
+QString TextoDocumentoInvalido(const QString &documento);
 
 } // namespace ficha

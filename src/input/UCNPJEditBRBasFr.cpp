@@ -1,8 +1,6 @@
 #include "input/UCNPJEditBRBasFr.h"
 
-#include "input/UApoioInput.h"
 #include "platform/edits/TCNPJEditBR.h"
-#include "platform/support/Mensagens.h"
 #include "platform/toolkit/Layout.h"
 
 namespace ficha
@@ -24,14 +22,7 @@ void TCNPJEditBRBasFr::Create(QWidget *owner)
 
 bool TCNPJEditBRBasFr::ValorAceitavel()
 {
-    const bool vazioAceito = AceitaVazio && CNPJEditBR1->GetText().isEmpty();
-    const bool aceito = vazioAceito || CNPJEditBR1->Valido();
-    LigarFrase(Frases, FraseObrigatorio, !aceito);
-    if (!aceito)
-        MensagemAviso(QStringLiteral("CNPJ Inválido\r\nDigite o valor correto ou clique em "
-                                     "Cancelar."),
-                      0);
-    return aceito;
+    return AceitarDocumento(QStringLiteral("CNPJ"));
 }
 
 TDocEditBR *TCNPJEditBRBasFr::Edit() const

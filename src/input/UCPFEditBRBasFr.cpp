@@ -1,8 +1,6 @@
 #include "input/UCPFEditBRBasFr.h"
 
-#include "input/UApoioInput.h"
 #include "platform/edits/TCPFEditBR.h"
-#include "platform/support/Mensagens.h"
 #include "platform/toolkit/Layout.h"
 
 namespace ficha
@@ -24,14 +22,7 @@ void TCPFEditBRBasFr::Create(QWidget *owner)
 
 bool TCPFEditBRBasFr::ValorAceitavel()
 {
-    const bool vazioAceito = AceitaVazio && CPFEditBR1->GetText().isEmpty();
-    const bool aceito = vazioAceito || CPFEditBR1->Valido();
-    LigarFrase(Frases, FraseObrigatorio, !aceito);
-    if (!aceito)
-        MensagemAviso(QStringLiteral("CPF Inválido\r\nDigite o valor correto ou clique em "
-                                     "Cancelar."),
-                      0);
-    return aceito;
+    return AceitarDocumento(QStringLiteral("CPF"));
 }
 
 TDocEditBR *TCPFEditBRBasFr::Edit() const

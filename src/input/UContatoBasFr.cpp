@@ -78,8 +78,7 @@ void TContatoBasFr::Fone2EditBRKeyDown(QObject *, int &tecla, Qt::KeyboardModifi
 
 void TContatoBasFr::FaxEditBRKeyDown(QObject *, int &tecla, Qt::KeyboardModifiers)
 {
-    if (EMailLabeledEdit->isVisible())
-        AvancarComEnter(tecla, *EMailLabeledEdit);
+    AvancarComEnter(tecla, *EMailLabeledEdit);
 }
 
 void TContatoBasFr::EMailLabeledEditKeyDown(QObject *, int &tecla, Qt::KeyboardModifiers)

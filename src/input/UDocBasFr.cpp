@@ -72,10 +72,8 @@ bool TDocBasFr::DocAceitavel()
         return false;
     if (aceito && !NumeroValido()) {
         aceito = false;
-        const QString documento =
-            tipoPess == PessoaFisica ? QStringLiteral("CPF") : QStringLiteral("CNPJ");
-        MensagemAviso(documento + QStringLiteral(" Inválido\r\nDigite o valor correto ou clique em "
-                                                 "Cancelar."),
+        MensagemAviso(TextoDocumentoInvalido(tipoPess == PessoaFisica ? QStringLiteral("CPF")
+                                                                      : QStringLiteral("CNPJ")),
                       0);
     }
     if (vivo && !aceito)

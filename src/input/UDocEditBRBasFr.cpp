@@ -1,7 +1,9 @@
 #include "input/UDocEditBRBasFr.h"
 
+#include "input/UApoioInput.h"
 #include "input/UEdicaoDoUsuario.h"
 #include "platform/edits/TDocEditBR.h"
+#include "platform/support/Mensagens.h"
 #include "platform/toolkit/Evento.h"
 #include "platform/toolkit/Foco.h"
 
@@ -62,6 +64,16 @@ QString TDocEditBRBasFr::FraseRef() const
 bool TDocEditBRBasFr::Focused() const
 {
     return hasFocus() || Edit()->hasFocus();
+}
+
+bool TDocEditBRBasFr::AceitarDocumento(const QString &documento)
+{
+    const bool vazioAceito = AceitaVazio && Edit()->GetText().isEmpty();
+    const bool aceito = vazioAceito || Edit()->Valido();
+    LigarFrase(Frases, FraseObrigatorio, !aceito);
+    if (!aceito)
+        MensagemAviso(TextoDocumentoInvalido(documento), 0);
+    return aceito;
 }
 
 void TDocEditBRBasFr::FrameExit(QObject *sender)

@@ -56,6 +56,10 @@ protected:
     virtual void EditMudou() = 0;
     virtual void EditEntrou() = 0;
 
+    /** Whether the edit holds a valid identifier, or nothing where AceitaVazio allows it. What is
+     * refused switches phrase 1 on and is told to the user, by the identifier's name. */
+    bool AceitarDocumento(const QString &documento);
+
     void FrameExit(QObject *sender) override;
 
 private:

@@ -272,6 +272,17 @@ TEST_F(TContatoBasFrTest, EnterInTheFaxStaysWhileTheEMailIsHidden)
     EXPECT_EQ(ouvinte.teclas, 1);
 }
 
+TEST_F(TContatoBasFrTest, EnterBeforeADisabledInputIsTheForms)
+{
+    Montar();
+    TOuvinte ouvinte(&tela);
+    fr->Fone2EditBR->setEnabled(false);
+    fr->Fone1EditBR->setFocus();
+    Teclar(fr->Fone1EditBR, Qt::Key_Return);
+    EXPECT_EQ(Foco(), fr->Fone1EditBR);
+    EXPECT_EQ(ouvinte.teclas, 1);
+}
+
 TEST_F(TContatoBasFrTest, TabGoesAlongTheRowAndTheDDDComesLast)
 {
     Montar();

@@ -125,6 +125,18 @@ TEST_F(TDocBasFrTest, EnterGoesFromTheFirstToTheThirdAndNoFurther)
     EXPECT_EQ(avisos, QStringList());
 }
 
+TEST_F(TDocBasFrTest, EnterBeforeAHiddenInputIsTheForms)
+{
+    Montar();
+    TOuvinte ouvinte(&tela);
+    fr->ILabeledEditTextoBasFr->hide();
+    c->setFocus();
+    Teclar(c, Qt::Key_Return);
+    EXPECT_EQ(Foco(), c);
+    EXPECT_EQ(ouvinte.teclas, QList<int>{Qt::Key_Return});
+    EXPECT_EQ(avisos, QStringList());
+}
+
 TEST_F(TDocBasFrTest, TabGoesThroughTheThree)
 {
     Montar();
