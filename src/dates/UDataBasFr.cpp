@@ -1,6 +1,7 @@
 #include "dates/UDataBasFr.h"
 
 #include "dates/UDataSelectF.h"
+#include "dates/UPosicaoDoDialogo.h"
 #include "dates/USeculo.h"
 #include "platform/core/Relogio.h"
 #include "platform/support/Datas.h"
@@ -13,9 +14,8 @@
 
 #include <QLabel>
 #include <QPointer>
+#include <QScopeGuard>
 #include <QScreen>
-
-#include <algorithm>
 
 namespace ficha
 {
@@ -118,21 +118,18 @@ void TDataBasFr::BitBtn1Click(QObject *)
 {
     const QPointer<TDataBasFr> vivo(this);
     const QPointer<TDataSelectF> dialogo(Criar<TDataSelectF>(window()));
+    const auto fim = qScopeGuard([&dialogo] {
+        if (dialogo)
+            dialogo->deleteLater();
+    });
     dialogo->TitLab->setText(Tit1Lab->text());
     // From the frame's corner, which is in its parent's measure, seen as a point of the frame.
     const QPoint canto = mapToGlobal(geometry().topLeft() + QPoint(width(), height()));
-    const QRect tela = screen()->availableGeometry();
-    const auto dentro = [](int n, int primeiro, int ultimo) {
-        return std::max(primeiro, std::min(n, ultimo));
-    };
-    dialogo->move(dentro(canto.x() - dialogo->width() - ParaEsquerda, tela.left(),
-                         tela.right() + 1 - dialogo->width()),
-                  dentro(canto.y() - ParaCima, tela.top(), tela.bottom() + 1 - dialogo->height()));
+    dialogo->move(PosicaoDoDialogo(canto - QPoint(ParaEsquerda, ParaCima), dialogo->size(),
+                                   screen()->availableGeometry()));
     const QString texto = MaskEdit1->GetText();
     dialogo->MonthCalendar1->SetDate(StrLimpaIsValidDate(texto) ? StrLimpaToDate(texto) : Hoje());
     const bool confirmou = dialogo->Executar();
-    if (dialogo)
-        dialogo->deleteLater();
     if (!vivo)
         return;
     if (confirmou && dialogo)
