@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace bancada
+{
+
+/**
+ * The layout of the same screen for uic: every widget of a screen as the plain Qt class that it is
+ * made of, with its place, caption, font and state, and every action. Widgets that Qt's own make
+ * for themselves are left out, and so are pictures.
+ */
+QString LayoutDoPar(const QWidget *tela);
+
+} // namespace bancada
