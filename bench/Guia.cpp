@@ -256,7 +256,7 @@ BANCADA_GRUPO(guia)
          .Nosso = {nosso, {}},
          .Par = {bruto, {}},
          .Limite = 2,
-         .NaVerificacao = 3,
+         .NaVerificacao = 12,
          .Nota = "the address of the CEP, then the lists of its state's municípios, its "
                  "município's bairros and its bairro's streets; ours from leaving the CEP until "
                  "every list is filled and stands on its item"});

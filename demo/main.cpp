@@ -2,6 +2,7 @@
 #include "demo/UComercialF.h"
 #include "demo/UGuiaDeCeps.h"
 #include "demo/UPasseio.h"
+#include "demo/USaidaAoPintar.h"
 #include "forms/UFicha.h"
 #include "platform/core/Erros.h"
 #include "platform/database/ConexD.h"
@@ -14,6 +15,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <optional>
 
 using namespace comercial;
 using namespace ficha;
@@ -31,6 +33,8 @@ struct TOpcoes {
     QString Abrir;
     /** Streets to add to the postal-code guide. */
     QString GerarGuia;
+    /** Ends once the screen has been painted, saying when. */
+    bool SairDepoisDePintar = false;
 };
 
 TOpcoes LerOpcoes(const QApplication &app)
@@ -50,13 +54,19 @@ TOpcoes LerOpcoes(const QApplication &app)
         {QStringLiteral("gerar-guia"),
          QStringLiteral("Acrescenta ruas inventadas ao guia de CEPs, para medições, e termina"),
          QStringLiteral("quantidade")},
+        {QStringLiteral("sair-depois-de-pintar"),
+         QStringLiteral("Termina depois da primeira pintura da tela, para medir o início")},
         {QStringLiteral("foto-da-recusa"), QStringLiteral("Fotografa a mensagem de abertura"),
          QStringLiteral("arquivo")},
     });
     leitor.process(app);
-    return {leitor.value(QStringLiteral("banco")), leitor.isSet(QStringLiteral("tour")),
-            leitor.value(QStringLiteral("pasta")), leitor.value(QStringLiteral("foto-da-recusa")),
-            leitor.value(QStringLiteral("abrir")), leitor.value(QStringLiteral("gerar-guia"))};
+    return {leitor.value(QStringLiteral("banco")),
+            leitor.isSet(QStringLiteral("tour")),
+            leitor.value(QStringLiteral("pasta")),
+            leitor.value(QStringLiteral("foto-da-recusa")),
+            leitor.value(QStringLiteral("abrir")),
+            leitor.value(QStringLiteral("gerar-guia")),
+            leitor.isSet(QStringLiteral("sair-depois-de-pintar"))};
 }
 
 int Percorrer(TSQLConnection &conexao, const TOpcoes &opcoes)
@@ -96,6 +106,11 @@ int Trabalhar(TSQLConnection &conexao, const TOpcoes &opcoes)
     janela->Show();
     if (!opcoes.Abrir.isEmpty() && !janela->AbrirTela(opcoes.Abrir))
         throw EErro(QStringLiteral("Não há uma tela chamada '%1'.").arg(opcoes.Abrir));
+    std::optional<TSaidaAoPintar> saida;
+    if (opcoes.SairDepoisDePintar) {
+        const auto telas = janela->Filhos();
+        saida.emplace(telas.isEmpty() ? janela.get() : telas.constLast());
+    }
     return QApplication::exec();
 }
 
