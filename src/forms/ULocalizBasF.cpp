@@ -1,5 +1,6 @@
 #include "forms/ULocalizBasF.h"
 
+#include "platform/core/FormasSimples.h"
 #include "platform/support/Mensagens.h"
 #include "platform/toolkit/Evento.h"
 #include "platform/toolkit/Layout.h"
@@ -110,7 +111,8 @@ bool TLocalizBasF::Localizou()
             return false;
     }
     TStringGrid *grade = tela->GradeDaBusca();
-    const int achada = LinhaQueConfere(*grade, registros);
+    const int achada =
+        FormasSimples() ? AndarAteConferir(*grade, registros) : LinhaQueConfere(*grade, registros);
     if (achada > 0)
         grade->SetRow(achada);
     return achada > 0;
@@ -151,6 +153,24 @@ int TLocalizBasF::LinhaQueConfere(const TStringGrid &grade, int registros) const
         if (Confere(modo, celula, procurado))
             return linha;
     }
+    return 0;
+}
+
+/** The same with the list going along; a miss puts it back, the view with it. */
+int TLocalizBasF::AndarAteConferir(TStringGrid &grade, int registros) const
+{
+    QString procurado = LocalizLabeledEdit->text();
+    Normalizar(procurado);
+    const int inicio = grade.GetRow(), topo = grade.GetTopRow();
+    for (int linha = inicio + Direcao; linha >= 1 && linha <= registros; linha += Direcao) {
+        grade.SetRow(linha);
+        QString celula = grade.GetCell(grade.GetCol(), linha);
+        Normalizar(celula);
+        if (Confere(OndeRadioGroup->GetItemIndex(), celula, procurado))
+            return linha;
+    }
+    grade.SetRow(inicio);
+    grade.SetTopRow(topo);
     return 0;
 }
 

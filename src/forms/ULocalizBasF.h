@@ -95,6 +95,7 @@ private:
     int LinhaFinal(int registros) const;
     bool PerguntarOutraDirecao();
     int LinhaQueConfere(const TStringGrid &grade, int registros) const;
+    int AndarAteConferir(TStringGrid &grade, int registros) const;
 };
 
 /** The one instance of the process; null outside the life of TFicha. */

@@ -6,6 +6,7 @@
 #include "input/UComboBoxCodBasFr.h"
 #include "input/UNumEditBRCodBasFr.h"
 #include "platform/core/Erros.h"
+#include "platform/core/FormasSimples.h"
 #include "platform/edits/TNumEditBR.h"
 #include "platform/support/Mensagens.h"
 #include "platform/support/SisD.h"
@@ -152,7 +153,8 @@ void TTabLinearBasF::Reler(int cod)
         cod = CodigoAtual();
     ReabrirLista();
     // Only the record on which the walk ends is shown; showing it once is showing it.
-    const QScopedValueRollback<bool> controles(Tab->AtualizarControles, false);
+    const QScopedValueRollback<bool> controles(Tab->AtualizarControles,
+                                               FormasSimples() && mostrarAoReler);
     PreencherStringGrid();
     IrParaCodigo(cod);
     if (mostrarAoReler)
@@ -521,6 +523,12 @@ void TTabLinearBasF::IrParaCodigo(int cod)
     const int registros = SQLQuery1->RecordCount();
     if (registros == 0 || Tab->Campos->Count() == 0) {
         Tab->First();
+        return;
+    }
+    if (FormasSimples()) {
+        Tab->First();
+        while (!Tab->Fim && CodigoAtual() != cod)
+            Tab->Next();
         return;
     }
     TCampo *codigo = Tab->Campos->Campos(0);

@@ -240,6 +240,7 @@ private:
     void LigarGrade();
     int CodigoAtual() const;
     void IrParaCodigo(int cod);
+    void AndarAteNaoDesfazer();
     void PararNoQueNaoDesfaz();
     bool RelerSeFechada();
     void GarantirListaAberta();

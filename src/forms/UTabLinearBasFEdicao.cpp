@@ -3,6 +3,7 @@
 #include "forms/UApoioForms.h"
 #include "input/UNumEditBRCodBasFr.h"
 #include "platform/core/Erros.h"
+#include "platform/core/FormasSimples.h"
 #include "platform/database/ConexD.h"
 #include "platform/support/Mensagens.h"
 #include "platform/toolkit/Evento.h"
@@ -191,7 +192,10 @@ void TTabLinearBasF::ReposicionarAposInserir()
         return;
     const TFlagGuarda ligado(this, &TTabLinearBasF::AtualizarLigado, false);
     const QScopedValueRollback<bool> controles(Tab->AtualizarControles, false);
-    PararNoQueNaoDesfaz();
+    if (FormasSimples())
+        AndarAteNaoDesfazer();
+    else
+        PararNoQueNaoDesfaz();
     PreencherStringGrid();
 }
 
@@ -210,9 +214,7 @@ bool TTabLinearBasF::Alterou()
     ReabrirLista();
     const TFlagGuarda sincronia(this, &TTabLinearBasF::SincronizarLinha, false);
     const TFlagGuarda ligado(this, &TTabLinearBasF::AtualizarLigado, false);
-    Tab->First();
-    while (!Tab->Fim && Tab->Campos->CanUndo())
-        Tab->Next();
+    AndarAteNaoDesfazer();
     PreencherStringGrid();
     return true;
 }
@@ -475,6 +477,13 @@ TDBControlBasFr *TTabLinearBasF::PrimeiroErrado()
         return !vivo.isNull();
     });
     return errado;
+}
+
+void TTabLinearBasF::AndarAteNaoDesfazer()
+{
+    Tab->First();
+    while (!Tab->Fim && Tab->Campos->CanUndo())
+        Tab->Next();
 }
 
 /** Stands on the first record for which no input could undo anything, or past the last one; only

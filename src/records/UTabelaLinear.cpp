@@ -1,6 +1,7 @@
 #include "records/UTabelaLinear.h"
 
 #include "base/UControlBasFr.h"
+#include "platform/core/FormasSimples.h"
 #include "platform/support/BancoApoio.h"
 #include "platform/toolkit/Evento.h"
 #include "platform/toolkit/TStringGrid.h"
@@ -326,6 +327,10 @@ void TTabelaLinear::LocalizarPelaChave(const QString &chaves)
 {
     if (NRegistros() == 0)
         return;
+    if (FormasSimples()) {
+        AndarAteAChave(chaves);
+        return;
+    }
     std::vector<TCampo *> campos;
     campos.reserve(std::size_t(Campos->NChaves()));
     for (int i = 0; i < Campos->NChaves(); ++i)
@@ -341,6 +346,15 @@ void TTabelaLinear::LocalizarPelaChave(const QString &chaves)
         return false;
     });
     SetRecno(achada);
+}
+
+void TTabelaLinear::AndarAteAChave(const QString &chaves)
+{
+    First();
+    while (!Fim && ChavesGarantia() != chaves)
+        Next();
+    if (Fim)
+        First();
 }
 
 /**
@@ -401,7 +415,10 @@ void TTabelaLinear::PreencherStringGrid(TStringGrid *grid)
     const QScopedValueRollback<bool> guarda(AtualizarControles);
     if (NRegistros() > 0) {
         AtualizarControles = false;
-        PreencherLinhas(grid);
+        if (FormasSimples())
+            PreencherLinhaALinha(grid);
+        else
+            PreencherLinhas(grid);
     }
     SetRecno(lembrado);
 }
@@ -444,6 +461,22 @@ void TTabelaLinear::PreencherLinhas(TStringGrid *grid)
     });
 }
 
+void TTabelaLinear::PreencherLinhaALinha(TStringGrid *grid)
+{
+    const TField *primeira = Campos->Campos(0)->Field;
+    First();
+    for (int r = 1; !primeira || !primeira->IsNull(); ++r) {
+        int coluna = 0;
+        for (int i = 0; i < Campos->Count(); ++i) {
+            if (Campos->Campos(i)->Visivel)
+                grid->SetCell(coluna++, r, Campos->Campos(i)->AsString());
+        }
+        if (NRegistros() == r)
+            break;
+        Next();
+    }
+}
+
 void TTabelaLinear::PreencherStringList(TLinhas &lista, int i)
 {
     const int lembrado = RecNo;
@@ -451,7 +484,7 @@ void TTabelaLinear::PreencherStringList(TLinhas &lista, int i)
     const auto religar = qScopeGuard([this] { AtualizarControles = true; });
     lista.Clear();
     TCampo *campo = Campos->Campos(i);
-    const bool todos = bool(campo->OnAsString);
+    const bool todos = FormasSimples() || campo->OnAsString;
     PercorrerLinhas([&] {
         if (todos)
             Campos->PegarValores();

@@ -16,7 +16,7 @@ class TStringGrid;
  * The lock is taken by GarantiaRegistro and released when the alteration or deletion ends, at the
  * latest when the table is destroyed. Rows that are only walked over are never shown in the
  * inputs, and only the fields that the walk asks for are read from them; the state after each
- * operation is that of walking row by row.
+ * operation is that of walking row by row, as FormasSimples has it done.
  */
 class TTabelaLinear : public TTabela
 {
@@ -118,6 +118,8 @@ private:
     static bool LinhaTemChave(const std::vector<TCampo *> &campos, QStringView chaves);
     void PreencherTitulos(TStringGrid *grid) const;
     void PreencherLinhas(TStringGrid *grid);
+    void AndarAteAChave(const QString &chaves);
+    void PreencherLinhaALinha(TStringGrid *grid);
     bool Travar(const QString &chaves, const QString &onde);
     bool DetemTrava() const;
     void LiberarTrava();
