@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Checks the tree's clang-format and clang-tidy configurations. Needs clang-format, clang-tidy and a
-# configured release build. With file names, clang-tidy looks at those only.
+# release build that ./bench.sh has configured. With file names, clang-tidy looks at those only.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 mapfile -t todos < <(git ls-files '*.h' '*.cpp')
@@ -8,7 +8,12 @@ clang-format --dry-run --Werror "${todos[@]}"
 echo "clang-format: ${#todos[@]} files"
 arquivos=("$@")
 if [ ${#arquivos[@]} -eq 0 ]; then
-    mapfile -t arquivos < <(git ls-files 'src/*.cpp' 'demo/*.cpp')
+    mapfile -t arquivos < <(git ls-files 'src/*.cpp' 'demo/*.cpp' 'bench/*.cpp')
+fi
+if [[ " ${arquivos[*]}" == *" bench/"* ]] &&
+    ! grep -q '"file": ".*/bench/main.cpp"' build/release/compile_commands.json; then
+    echo "The bench is not in the release build: ./bench.sh --check puts it there." >&2
+    exit 1
 fi
 # The compiler writes its precompiled header in its own format: clang reads the sources without it.
 banco=$(mktemp -d)
