@@ -9,7 +9,22 @@ namespace ficha
 namespace
 {
 constexpr int CodigoDoBranco = 32;
+
+/** Without the blanks around it. */
+QAnyStringView Aparado(QAnyStringView texto)
+{
+    return texto.visit([](auto t) -> QAnyStringView {
+        qsizetype de = 0, ate = t.size();
+        if constexpr (!std::is_same_v<decltype(t), QUtf8StringView>) {
+            while (de < ate && QChar(t[de]).isSpace())
+                ++de;
+            while (ate > de && QChar(t[ate - 1]).isSpace())
+                --ate;
+        }
+        return t.sliced(de, ate - de);
+    });
 }
+} // namespace
 
 TCampo::TCampo()
     : ColInfo(std::make_unique<TColInfo>()), FormatoFloat(QStringLiteral("########0.00"))
@@ -128,6 +143,43 @@ void TCampo::LerColuna()
 {
     if (Field)
         SetValor(Field->Value());
+}
+
+bool TCampo::MostraAColuna() const
+{
+    return Field && !EhLista() && !OnAsString && (Tipo == 0 || Tipo == 4) && ValorEhDaColuna();
+}
+
+/** A value of the program's may equal the column's and read otherwise: SetValor leaves it. */
+bool TCampo::ValorEhDaColuna() const
+{
+    if (Valor.EhNulo())
+        return !ColunaTexto();
+    switch (Field->DataType()) {
+    case TFieldType::ftString:
+        return Valor.EhTexto() && Valor.AsString() == Valor.AsString().trimmed();
+    case TFieldType::ftMemo:
+    case TFieldType::ftBlob:
+        return Valor.EhTexto();
+    case TFieldType::ftSmallint:
+    case TFieldType::ftInteger:
+    case TFieldType::ftBoolean:
+        return Valor.EhInteiro();
+    case TFieldType::ftFloat:
+        return Valor.EhDouble();
+    case TFieldType::ftUnknown:
+        return false;
+    default:
+        return Valor.EhDataHora();
+    }
+}
+
+QAnyStringView TCampo::TextoDaColuna(TEspacoDeTexto &espaco) const
+{
+    if (Tipo == 0)
+        return Aparado(Field->TextoDoValor(espaco));
+    espaco.texto = TextoPeloTipo();
+    return espaco.texto;
 }
 
 void TCampo::PreencherControl()

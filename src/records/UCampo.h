@@ -48,6 +48,12 @@ public:
     void PegarValor();
     /** Takes the column's current value alone, for rows that are only walked over. */
     void LerColuna();
+    /** Whether AsString after LerColuna is TextoDaColuna, and Valor is a value that the column
+     * gave: the rows may then be gone through without it. */
+    bool MostraAColuna() const;
+    /** The text that lists show of the column's current value; Valor stays. Valid until the rows
+     * change or espaco is used again. Only where MostraAColuna says so. */
+    QAnyStringView TextoDaColuna(TEspacoDeTexto &espaco) const;
     /** Shows the value in the bound input. */
     void PreencherControl();
     /** Shows the stored value again in the bound input. */
@@ -92,6 +98,7 @@ private:
     QString TextoPeloTipo() const;
     QString TextoDoCaractere() const;
     QString TextoDoNumero() const;
+    bool ValorEhDaColuna() const;
 };
 
 } // namespace ficha

@@ -436,6 +436,45 @@ void TTabelaLinear::PreencherTitulos(TStringGrid *grid) const
     }
 }
 
+namespace
+{
+
+/** A visible field on its way through the rows: its texts go from the column into the grid without
+ * passing through Valor, where that shows the same. Valor ends as the walk row by row leaves it. */
+class TColunaDaGrade
+{
+public:
+    explicit TColunaDaGrade(TCampo *doCampo) : campo(doCampo) {}
+
+    /** From the dataset's row of that number into a row of the grid. */
+    void Escrever(int doDataSet, TStringGrid *grid, TGridCoord onde, TEspacoDeTexto &espaco)
+    {
+        if (direta) {
+            grid->SetCell(onde.Col, onde.Row, campo->TextoDaColuna(espaco));
+            lida = doDataSet;
+            return;
+        }
+        campo->LerColuna();
+        grid->SetCell(onde.Col, onde.Row, campo->AsString());
+        direta = campo->MostraAColuna();
+    }
+    /** Takes the value of the last row that was written. */
+    void Assentar(TDataSet *dataset)
+    {
+        if (lida == 0 || !dataset || lida > dataset->RecordCount())
+            return;
+        const TLerLinha ler(dataset, lida);
+        campo->LerColuna();
+    }
+
+private:
+    TCampo *campo;
+    bool direta = false;
+    int lida = 0; /**< row whose text was written past Valor */
+};
+
+} // namespace
+
 /** Only the visible fields are read from each row, save where one of them renders itself through
  * its event. */
 void TTabelaLinear::PreencherLinhas(TStringGrid *grid)
@@ -445,20 +484,38 @@ void TTabelaLinear::PreencherLinhas(TStringGrid *grid)
         if (Campos->Campos(i)->Visivel)
             visiveis.push_back(Campos->Campos(i));
     }
-    const bool todos = TemEvento(visiveis);
     const TField *primeira = Campos->Campos(0)->Field;
-    PercorrerLinhas([&] {
-        if (primeira && primeira->IsNull())
-            return false;
-        if (todos)
+    const auto temChave = [primeira] { return !primeira || !primeira->IsNull(); };
+    if (TemEvento(visiveis)) {
+        PercorrerLinhas([&] {
+            if (!temChave())
+                return false;
             Campos->PegarValores();
-        for (size_t c = 0; c < visiveis.size(); ++c) {
-            if (!todos)
-                visiveis[c]->LerColuna();
-            grid->SetCell(int(c), RecNo, visiveis[c]->AsString());
-        }
-        return true;
-    });
+            for (size_t c = 0; c < visiveis.size(); ++c)
+                grid->SetCell(int(c), RecNo, visiveis[c]->AsString());
+            return true;
+        });
+        return;
+    }
+    std::vector<TColunaDaGrade> colunas(visiveis.begin(), visiveis.end());
+    const auto assentar = [&] {
+        for (TColunaDaGrade &coluna : colunas)
+            coluna.Assentar(DataSet);
+    };
+    TEspacoDeTexto espaco;
+    try {
+        PercorrerLinhas([&] {
+            if (!temChave())
+                return false;
+            for (size_t c = 0; c < colunas.size(); ++c)
+                colunas[c].Escrever(DataSet->RecNo(), grid, {int(c), RecNo}, espaco);
+            return true;
+        });
+    } catch (...) {
+        assentar();
+        throw;
+    }
+    assentar();
 }
 
 void TTabelaLinear::PreencherLinhaALinha(TStringGrid *grid)

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 using ficha::TDateTime;
 
 TEST(TDateTime, DayZeroIs30December1899)
@@ -28,11 +30,25 @@ TEST(TDateTime, WritesTheTimeOnlyWhereThereIsOne)
 TEST(TDateTime, TextsAreThoseOfTheCalendar)
 {
     const QString dia = QStringLiteral("dd/MM/yyyy");
-    for (QDate d(1899, 11, 28); d < QDate(2101, 1, 1); d = d.addDays(13)) {
+    const auto conferir = [&](QDate d) {
         const QTime hora(d.day() % 24, d.dayOfYear() % 60, d.month() * 4);
+        const QString texto = QDateTime(d, hora).toString(dia + QStringLiteral(" HH:mm:ss"));
         EXPECT_EQ(TDateTime(d).TextoData(), d.toString(dia));
-        EXPECT_EQ(TDateTime(QDateTime(d, hora)).Texto(),
-                  QDateTime(d, hora).toString(dia + QStringLiteral(" HH:mm:ss")));
+        EXPECT_EQ(TDateTime(QDateTime(d, hora)).Texto(), texto);
+        std::array<char, 19> letras;
+        EXPECT_EQ(TDateTime(d).EscreverTexto(letras), 10);
+        EXPECT_EQ(TDateTime(QDateTime(d, hora)).EscreverTexto(letras), 19);
+        EXPECT_EQ(QString::fromLatin1(letras.data(), 19), texto);
+    };
+    for (QDate d(1899, 11, 28); d < QDate(2101, 1, 1); d = d.addDays(13))
+        conferir(d);
+    // Where months and years end, leap years and those of full centuries among them.
+    for (const int ano : {1,    4,    99,   100,  101,  399,  400,  401,  800,  1582, 1600, 1700,
+                          1752, 1899, 1900, 1999, 2000, 2023, 2024, 2100, 2400, 4000, 9996, 9999}) {
+        for (int mes = 1; mes <= 12; ++mes) {
+            conferir(QDate(ano, mes, 1));
+            conferir(QDate(ano, mes, QDate(ano, mes, 1).daysInMonth()));
+        }
     }
     for (const QDate d : {QDate(1, 1, 1), QDate(999, 9, 9), QDate(9999, 12, 31), QDate(10000, 1, 1),
                           QDate(-5, 6, 7)}) {
@@ -40,6 +56,13 @@ TEST(TDateTime, TextsAreThoseOfTheCalendar)
         EXPECT_EQ(TDateTime(QDateTime(d, QTime(1, 2, 3))).Texto(),
                   d.toString(dia) + QStringLiteral(" 01:02:03"));
     }
+}
+
+TEST(TDateTime, YearsWithoutFourDigitsAreLeftToTheText)
+{
+    std::array<char, 19> letras;
+    for (const QDate d : {QDate(10000, 1, 1), QDate(-1, 12, 31), QDate(-5, 6, 7)})
+        EXPECT_EQ(TDateTime(d).EscreverTexto(letras), 0);
 }
 
 TEST(TDateTime, AnImpossibleDateIsDayZero)

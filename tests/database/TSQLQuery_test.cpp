@@ -253,6 +253,40 @@ TEST_F(TSQLQueryTest, CharacterThatLatin1LacksCannotBeReadAsText)
     EXPECT_FALSE(query.Active());
 }
 
+TEST_F(TSQLQueryTest, TheTextOfAValueIsTheOneThatItsVariantHas)
+{
+    const std::vector<std::pair<QString, QStringList>> valores = {
+        {"c5", {"'ab'", "'abcde'", "''", "null"}},
+        {"v40", {"' á b '", "''", "null", "'água e Sol'"}},
+        {"si", {"0", "-32768", "7"}},
+        {"i", {"0", "-2147483648", "2147483647", "100", "null"}},
+        {"bi", {"0", "-10", "999999999999999", "1000000000000000", "-1234567890123456789"}},
+        {"n92", {"0", "0.01", "-0.05", "10", "10.5", "-1234.56", "9999999.99"}},
+        {"n152", {"0.10", "-0.01", "9999999999999.99", "-1234567890123.45", "100", "null"}},
+        {"n184", {"0.0001", "-3.1400", "99999999999.9999", "12345678901234.5678"}},
+        {"f", {"0.1", "-2.5", "0"}},
+        {"d", {"1e300", "0.333333333333333", "-0e0"}},
+        {"dt", {"'1899-12-30'", "'0001-01-01'", "'9999-12-31'", "'2024-02-29'", "null"}},
+        {"tm", {"'00:00'", "'23:59:59'"}},
+        {"ts", {"'2024-02-29 00:00'", "'2023-12-31 23:59:59.999'", "'1850-05-05 01:02:03'"}},
+        {"b", {"true", "false", "null"}},
+        {"memo", {"' muitas palavras '", "null"}},
+        {"oct", {"x'414200'"}},
+        {"semc", {"'sem '"}},
+        {"u8", {"'ação'"}},
+    };
+    TEspacoDeTexto espaco;
+    for (const auto &[coluna, literais] : valores) {
+        for (const QString &literal : literais) {
+            const TField *campo = Gravado(coluna, literal);
+            EXPECT_EQ(campo->TextoDoValor(espaco).toString(), campo->Value().AsString())
+                << qPrintable(coluna + u' ' + literal);
+        }
+    }
+    query.Close();
+    EXPECT_TRUE(query.FindField("u8")->TextoDoValor(espaco).isEmpty());
+}
+
 TEST_F(TSQLQueryTest, BlobsOfAnyLength)
 {
     banco.Executar(QStringLiteral("insert into tipos (id, memo, bin) values (1, '', '')"));

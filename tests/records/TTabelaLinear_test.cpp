@@ -293,6 +293,78 @@ TEST_F(TTabelaLinearTest, AnEventMayLookAtEveryFieldOfItsRow)
     EXPECT_EQ(grid.GetCell(1, 2), QStringLiteral("nome 2/20"));
 }
 
+/** What the grid must hold: every row walked to and every visible field read and rendered. */
+TEST_F(TTabelaLinearTest, TheGridShowsWhatWalkingRowByRowWouldShow)
+{
+    Abrir(
+        {1, 2, 3, 4},
+        QStringLiteral(
+            "select item_cod, '  ' || nome || decode(item_cod, 2, ' ', '') as nome, "
+            "cast(nome as char(12)) as c, nullif(nivel, 30) as nivel, "
+            "cast(item_cod * 1000000 - 2500000 as numeric(15,2)) / 3 as valor, "
+            "cast('2024-02-28' as date) + item_cod as dia, "
+            "cast('2024-02-28' as timestamp) + item_cod / 2.00 as momento, "
+            "item_cod > 2 as sim, cast(nome as blob sub_type text) as memo from item order by 1"));
+    for (int i = 0; i < query.FieldCount(); ++i)
+        tab->PegarCampo(query.Fields(i), 50);
+    TCampo *comFormato = tab->PegarCampo(query.FieldByName("valor"), 50);
+    comFormato->Tipo = 4;
+    tab->PegarCampo(query.FieldByName("dia"), 50)->Tipo = 1;
+    tab->PegarCampo(query.FieldByName("nivel"), 50)->Tipo = 6;
+    TLinhas lista;
+    for (int i = 0; i < 40; ++i)
+        lista.Add(QStringLiteral("nível %1").arg(i));
+    tab->PegarCampo(query.FieldByName("nivel"), 50)->Lista = &lista;
+
+    QStringList esperado;
+    for (int n = 1; n <= 4; ++n) {
+        tab->SetRecno(n);
+        for (int i = 0; i < tab->Campos->Count(); ++i)
+            esperado << tab->Campos->Campos(i)->AsString();
+    }
+    TStringGrid grid;
+    tab->SetRecno(1);
+    tab->PreencherStringGrid(&grid);
+    QStringList mostrado;
+    for (int r = 1; r <= 4; ++r) {
+        for (int c = 0; c < grid.GetColCount(); ++c)
+            mostrado << grid.GetCell(c, r);
+    }
+    EXPECT_EQ(mostrado, esperado);
+    EXPECT_EQ(grid.GetCell(1, 2), QStringLiteral("nome 2"));
+    EXPECT_EQ(grid.GetCell(3, 3), QString()) << "Null";
+    EXPECT_EQ(grid.GetCell(9, 1), QStringLiteral("-500.000,00").remove(u'.'));
+}
+
+/** A value of the program's that equals the column's is kept by SetValor, and shown. */
+TEST_F(TTabelaLinearTest, AnEqualValueOfTheProgramsIsShownAsItReads)
+{
+    Abrir({7, 8});
+    LigarTudo();
+    tab->Campos->Campos(0)->SetValor(Variant(QStringLiteral("07")));
+    TStringGrid grid;
+    tab->PreencherStringGrid(&grid);
+    EXPECT_EQ(grid.GetCell(0, 1), QStringLiteral("07"));
+    EXPECT_EQ(grid.GetCell(0, 2), QStringLiteral("8"));
+}
+
+TEST_F(TTabelaLinearTest, AFillThatFailsLeavesTheValuesOfTheRowItStandsOn)
+{
+    Abrir({1, 2, 3});
+    banco.Conexao().Executar(QStringLiteral("update item set nome = '12' where item_cod <> 3"));
+    query.Close();
+    query.Open();
+    tab->PegarCampoChave(query.FieldByName(QStringLiteral("item_cod")), 50, fr);
+    tab->PegarCampo(query.FieldByName(QStringLiteral("nivel")), 50);
+    tab->PegarCampo(query.FieldByName(QStringLiteral("nome")), 50)->Tipo = 4;
+    TStringGrid grid;
+    EXPECT_THROW(tab->PreencherStringGrid(&grid), EVariantError);
+    EXPECT_EQ(grid.GetCell(2, 2), QStringLiteral("12,00"));
+    EXPECT_EQ(tab->RecNo, 3);
+    EXPECT_EQ(tab->Campos->Campos(0)->Valor, Variant(3));
+    EXPECT_EQ(tab->Campos->Campos(1)->Valor, Variant(30));
+}
+
 TEST_F(TTabelaLinearTest, PreencherStringListLeavesAtualizarControlesOn)
 {
     Abrir({1, 2, 3});

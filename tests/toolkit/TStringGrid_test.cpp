@@ -193,6 +193,22 @@ TEST(TStringGrid, KeepsTextsOfEveryKindAndLength)
     }
 }
 
+TEST(TStringGrid, TakesTextsInAnyEncoding)
+{
+    const QString textos[] = {QStringLiteral("ação"), QStringLiteral("uma conceição mais longa"),
+                              QStringLiteral("€ e um tanto mais"), QString()};
+    for (const QString &texto : textos) {
+        TStringGrid grid;
+        const QByteArray utf8 = texto.toUtf8(), latin1 = texto.toLatin1();
+        grid.SetCell(0, 1, texto);
+        grid.SetCell(1, 1, QUtf8StringView(utf8));
+        grid.SetCell(2, 1, QLatin1StringView(latin1));
+        EXPECT_EQ(grid.GetCell(0, 1), texto);
+        EXPECT_EQ(grid.GetCell(1, 1), texto);
+        EXPECT_EQ(grid.GetCell(2, 1), QString::fromLatin1(latin1));
+    }
+}
+
 TEST(TStringGrid, AnswersEmptyOutsideAndIgnoresWritesThere)
 {
     TStringGrid grid;

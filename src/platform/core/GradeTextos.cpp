@@ -35,6 +35,12 @@ void Estreitar(QStringView texto, unsigned char *para)
         para[i] = static_cast<unsigned char>(de[i]);
 }
 
+void Estreitar(QLatin1StringView texto, unsigned char *para)
+{
+    if (!texto.isEmpty())
+        std::memcpy(para, texto.data(), std::size_t(texto.size()));
+}
+
 /** An entry is its length in characters, then the characters, filled up to whole words. */
 std::uint32_t TamanhoDaEntradaDe(std::uint32_t caracteres, bool latin1)
 {
@@ -59,14 +65,27 @@ QAnyStringView TGradeTextos::Texto(int col, int row) const
     return celula ? Texto(*celula) : QAnyStringView();
 }
 
-bool TGradeTextos::Gravar(int col, int row, QStringView texto)
+bool TGradeTextos::Gravar(int col, int row, QAnyStringView texto)
+{
+    return texto.visit([&](auto t) {
+        if constexpr (std::is_same_v<decltype(t), QLatin1StringView>) {
+            return Gravar(col, row, t, true);
+        } else if constexpr (std::is_same_v<decltype(t), QUtf8StringView>) {
+            return Gravar(col, row, QAnyStringView(t.toString()));
+        } else {
+            return Gravar(col, row, t, CabeEmLatin1(t));
+        }
+    });
+}
+
+template <typename TTexto>
+bool TGradeTextos::Gravar(int col, int row, TTexto texto, bool latin1)
 {
     TCelula *atual = const_cast<TCelula *>(Celula(col, row));
     if (atual ? IgualA(*atual, texto) : texto.isEmpty())
         return false;
     TCelula &celula = atual ? *atual : NovaCelula(col, row);
     const bool perde = EhLongo(celula.tipo);
-    const bool latin1 = CabeEmLatin1(texto);
     if (latin1 && texto.size() <= MaxCurto)
         GravarCurto(celula, texto);
     else
@@ -112,11 +131,11 @@ TGradeTextos::TCelula &TGradeTextos::NovaCelula(int col, int row)
     return bloco[std::size_t(row & (LinhasPorBloco - 1)) * std::size_t(colunas) + std::size_t(col)];
 }
 
-bool TGradeTextos::IgualA(const TCelula &celula, QStringView texto) const
+bool TGradeTextos::IgualA(const TCelula &celula, QAnyStringView texto) const
 {
     if (!EhLongo(celula.tipo) && celula.tipo != texto.size())
         return false; // most writes of a fill end here
-    return Texto(celula) == QAnyStringView(texto);
+    return Texto(celula) == texto;
 }
 
 QAnyStringView TGradeTextos::Texto(const TCelula &celula) const
@@ -170,14 +189,16 @@ std::uint32_t TGradeTextos::TamanhoDaEntrada(const TCelula &celula) const
     return TamanhoDaEntradaDe(n, celula.tipo == LongoLatin1);
 }
 
-void TGradeTextos::GravarCurto(TCelula &celula, QStringView texto)
+template <typename TTexto>
+void TGradeTextos::GravarCurto(TCelula &celula, TTexto texto)
 {
     Soltar(celula);
     Estreitar(texto, celula.dados);
     celula.tipo = static_cast<unsigned char>(texto.size());
 }
 
-void TGradeTextos::GravarLongo(TCelula &celula, QStringView texto, bool latin1)
+template <typename TTexto>
+void TGradeTextos::GravarLongo(TCelula &celula, TTexto texto, bool latin1)
 {
     const auto n = std::uint32_t(texto.size());
     const std::uint32_t novo = TamanhoDaEntradaDe(n, latin1);
@@ -187,10 +208,13 @@ void TGradeTextos::GravarLongo(TCelula &celula, QStringView texto, bool latin1)
     celula.tipo = latin1 ? LongoLatin1 : LongoUtf16;
     std::memcpy(entrada, &n, sizeof n);
     entrada += sizeof n;
-    if (latin1)
-        Estreitar(texto, reinterpret_cast<unsigned char *>(entrada));
-    else
-        std::memcpy(entrada, texto.utf16(), std::size_t(n) * 2);
+    if constexpr (std::is_same_v<TTexto, QStringView>) {
+        if (!latin1) {
+            std::memcpy(entrada, texto.utf16(), std::size_t(n) * 2);
+            return;
+        }
+    }
+    Estreitar(texto, reinterpret_cast<unsigned char *>(entrada));
 }
 
 void TGradeTextos::Soltar(TCelula &celula)

@@ -31,7 +31,7 @@ public:
     /** Valid until the next text is written. */
     QAnyStringView Texto(int col, int row) const;
     /** Writes a text; answers whether the cell's text is another one now. */
-    bool Gravar(int col, int row, QStringView texto);
+    bool Gravar(int col, int row, QAnyStringView texto);
     /** Bytes held for cells and texts, what is reserved and not used included. */
     qint64 Bytes() const;
 
@@ -51,13 +51,17 @@ private:
 
     const TCelula *Celula(int col, int row) const;
     TCelula &NovaCelula(int col, int row);
-    bool IgualA(const TCelula &celula, QStringView texto) const;
+    template <typename TTexto>
+    bool Gravar(int col, int row, TTexto texto, bool latin1);
+    bool IgualA(const TCelula &celula, QAnyStringView texto) const;
     QAnyStringView Texto(const TCelula &celula) const;
     char *Entrada(const TCelula &celula) const;
     static char *NovaEntrada(TArena &arena, TCelula &celula, std::uint32_t bytes);
     std::uint32_t TamanhoDaEntrada(const TCelula &celula) const;
-    void GravarCurto(TCelula &celula, QStringView texto);
-    void GravarLongo(TCelula &celula, QStringView texto, bool latin1);
+    template <typename TTexto>
+    void GravarCurto(TCelula &celula, TTexto texto);
+    template <typename TTexto>
+    void GravarLongo(TCelula &celula, TTexto texto, bool latin1);
     void Soltar(TCelula &celula);
     void SoltarLinhas(int de);
     void MudarColunas(int cols);

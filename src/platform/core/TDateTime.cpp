@@ -1,5 +1,6 @@
 #include "platform/core/TDateTime.h"
 
+#include <array>
 #include <cmath>
 
 namespace ficha
@@ -15,30 +16,30 @@ const QDate &DiaZero()
 }
 
 /** Writes a number into its places, zeros before it. */
-void Escrever(QChar *fim, int n, int casas)
+void Escrever(char *fim, int n, int casas)
 {
     for (; casas > 0; --casas, n /= 10)
-        *--fim = QChar(char16_t(u'0' + n % 10));
+        *--fim = char('0' + n % 10);
 }
 
-/** "dd/mm/yyyy" and room for more behind it. Lists write a date per cell: no format is read. */
-QString TextoDoDia(QDate dia, int tamanho)
+/** Writes "dd/mm/yyyy"; false, nothing written, for years that do not have four digits. Counted in
+ * eras of 400 years, the year starting in March so that the leap day is its last one. */
+bool EscreverDia(char *saida, double dias)
 {
-    int ano = 0;
-    int mes = 0;
-    int doMes = 0;
-    dia.getDate(&ano, &mes, &doMes);
-    QString t(tamanho, u'/');
-    Escrever(t.data() + 2, doMes, 2);
-    Escrever(t.data() + 5, mes, 2);
-    Escrever(t.data() + 10, ano, 4);
-    return t;
-}
-
-/** The years that have four digits. */
-bool AnoComum(QDate dia)
-{
-    return dia.year() >= 1 && dia.year() <= 9999;
+    constexpr double PrimeiroDia = -693593, UltimoDia = 2958465; // 01/01/0001 and 31/12/9999
+    if (!(dias >= PrimeiroDia && dias <= UltimoDia))
+        return false;
+    constexpr int DoAnoZero = 693899, DiasDaEra = 146097; // day 0 since 01/03/0000
+    const int n = int(dias) + DoAnoZero, era = n / DiasDaEra, naEra = n % DiasDaEra;
+    const int anoDaEra = (naEra - naEra / 1460 + naEra / 36524 - naEra / 146096) / 365;
+    const int doAno = naEra - (365 * anoDaEra + anoDaEra / 4 - anoDaEra / 100);
+    const int desdeMarco = (5 * doAno + 2) / 153;
+    const int mes = desdeMarco < 10 ? desdeMarco + 3 : desdeMarco - 9;
+    Escrever(saida + 2, doAno - (153 * desdeMarco + 2) / 5 + 1, 2);
+    Escrever(saida + 5, mes, 2);
+    Escrever(saida + 10, era * 400 + anoDaEra + (mes <= 2 ? 1 : 0), 4);
+    saida[2] = saida[5] = '/';
+    return true;
 }
 } // namespace
 
@@ -68,8 +69,7 @@ QDate TDateTime::Data() const
 
 QTime TDateTime::Hora() const
 {
-    const double fracao = std::max(0.0, valor - DataInteira().valor);
-    return QTime::fromMSecsSinceStartOfDay(int(std::lround(fracao * MsPorDia)) % int(MsPorDia));
+    return QTime::fromMSecsSinceStartOfDay(MsDoDia());
 }
 
 QDateTime TDateTime::DataHora() const
@@ -79,25 +79,42 @@ QDateTime TDateTime::DataHora() const
 
 QString TDateTime::TextoData() const
 {
-    const QDate dia = Data();
-    return AnoComum(dia) ? TextoDoDia(dia, 10) : dia.toString(QStringLiteral("dd/MM/yyyy"));
+    std::array<char, 10> letras;
+    return EscreverDia(letras.data(), DataInteira().valor)
+               ? QString::fromLatin1(letras.data(), letras.size())
+               : Data().toString(QStringLiteral("dd/MM/yyyy"));
 }
 
 QString TDateTime::Texto() const
 {
-    const QTime hora = Hora();
-    if (hora.msecsSinceStartOfDay() == 0)
-        return TextoData();
-    const QDate dia = Data();
-    if (!AnoComum(dia))
-        return TextoData() + hora.toString(QStringLiteral(" HH:mm:ss"));
-    QString t = TextoDoDia(dia, 19);
-    t[10] = u' ';
-    t[13] = t[16] = u':';
-    Escrever(t.data() + 13, hora.hour(), 2);
-    Escrever(t.data() + 16, hora.minute(), 2);
-    Escrever(t.data() + 19, hora.second(), 2);
-    return t;
+    std::array<char, 19> letras;
+    if (const int n = EscreverTexto(letras))
+        return QString::fromLatin1(letras.data(), n);
+    return MsDoDia() == 0 ? TextoData()
+                          : TextoData() + Hora().toString(QStringLiteral(" HH:mm:ss"));
+}
+
+int TDateTime::EscreverTexto(std::span<char, 19> saida) const
+{
+    char *letras = saida.data();
+    if (!EscreverDia(letras, DataInteira().valor))
+        return 0;
+    const int ms = MsDoDia();
+    if (ms == 0)
+        return 10;
+    const int segundos = ms / 1000;
+    letras[10] = ' ';
+    Escrever(letras + 13, segundos / 3600, 2);
+    Escrever(letras + 16, segundos / 60 % 60, 2);
+    Escrever(letras + 19, segundos % 60, 2);
+    letras[13] = letras[16] = ':';
+    return 19;
+}
+
+int TDateTime::MsDoDia() const
+{
+    const double fracao = std::max(0.0, valor - DataInteira().valor);
+    return int(std::lround(fracao * MsPorDia)) % int(MsPorDia);
 }
 
 } // namespace ficha

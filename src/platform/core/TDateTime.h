@@ -2,6 +2,8 @@
 
 #include <QDateTime>
 
+#include <span>
+
 namespace ficha
 {
 
@@ -31,11 +33,16 @@ public:
     QString TextoData() const;
     /** "dd/mm/yyyy" when the time of day is midnight, else "dd/mm/yyyy hh:nn:ss". */
     QString Texto() const;
+    /** Writes Texto() as plain characters and answers how many; 0, for years that do not have four
+     * digits, leaves it to Texto(). For lists, which ask for a text per cell. */
+    int EscreverTexto(std::span<char, 19> saida) const;
 
     friend constexpr bool operator==(TDateTime a, TDateTime b) { return a.valor == b.valor; }
     friend constexpr auto operator<=>(TDateTime a, TDateTime b) { return a.valor <=> b.valor; }
 
 private:
+    int MsDoDia() const;
+
     double valor = 0;
 };
 

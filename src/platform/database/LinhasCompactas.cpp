@@ -86,6 +86,29 @@ QString TextoEscalado(std::int64_t valor, int escala)
     return valor < 0 ? u'-' + t : t;
 }
 
+/** Writes a scaled number as the double that stands for it is written, "-0,01" or "1234,5", and
+ * answers how many characters; 0 where the double does not have all of its digits. */
+int EscreverNumero(TEspacoDeTexto &espaco, std::int64_t valor, int escala)
+{
+    constexpr std::int64_t QuinzeAlgarismos = 1'000'000'000'000'000;
+    if (valor <= -QuinzeAlgarismos || valor >= QuinzeAlgarismos)
+        return 0;
+    for (; escala > 0 && valor % 10 == 0; --escala)
+        valor /= 10;
+    std::uint64_t resto = valor < 0 ? std::uint64_t(-valor) : std::uint64_t(valor);
+    char *const fim = espaco.letras.data() + espaco.letras.size();
+    char *inicio = fim;
+    for (int casa = 0; resto > 0 || casa <= escala; ++casa, resto /= 10) {
+        if (casa == escala && escala > 0)
+            *--inicio = ',';
+        *--inicio = char('0' + resto % 10);
+    }
+    if (valor < 0)
+        *--inicio = '-';
+    std::memmove(espaco.letras.data(), inicio, size_t(fim - inicio));
+    return int(fim - inicio);
+}
+
 /** The shortest decimal that is this float, as a double: 0.1f is 0.1, not 0.100000001490116. */
 double DeFloat(float valor)
 {
@@ -283,6 +306,39 @@ QString TLinhasCompactas::Texto(int linha, int coluna) const
     }
 }
 
+QAnyStringView TLinhasCompactas::TextoDoValor(int linha, int coluna, TEspacoDeTexto &espaco) const
+{
+    if (Nula(linha, coluna))
+        return {};
+    const unsigned char *l = linhas[size_t(linha)];
+    const auto i = size_t(coluna);
+    int n = 0;
+    switch (colunas[i].tipo) {
+    case TFisico::Int16:
+    case TFisico::Int32:
+    case TFisico::Int64:
+        n = EscreverNumero(espaco, Inteiro(l, i), colunas[i].escala);
+        break;
+    case TFisico::Data:
+    case TFisico::Momento:
+        n = Valor(linha, coluna).AsDateTime().EscreverTexto(std::span(espaco.letras).first<19>());
+        break;
+    case TFisico::Char:
+    case TFisico::VarChar:
+    case TFisico::Blob:
+        if (const QLatin1StringView texto = Guardado(l, i);
+            !colunas[i].brancos || texto.size() >= qsizetype(colunas[i].largura))
+            return texto;
+        break;
+    default:
+        break;
+    }
+    if (n > 0)
+        return QLatin1StringView(espaco.letras.data(), n);
+    espaco.texto = Valor(linha, coluna).AsString();
+    return espaco.texto;
+}
+
 qint64 TLinhasCompactas::BytesUsados() const
 {
     return bytesDasArenas + qint64(linhas.capacity() * sizeof(unsigned char *));
@@ -296,14 +352,20 @@ std::uint32_t TLinhasCompactas::LerFim(const unsigned char *linha, std::int32_t 
                       : Ler<std::uint16_t>(linha + inicioDosFins + 2 * size_t(texto));
 }
 
-QString TLinhasCompactas::TextoGuardado(const unsigned char *linha, size_t i) const
+/** The text as it lies in the row, without the blanks that were dropped. */
+QLatin1StringView TLinhasCompactas::Guardado(const unsigned char *linha, size_t i) const
 {
     const std::uint32_t inicio = LerFim(linha, lugares[i].texto - 1);
     const std::uint32_t n = LerFim(linha, lugares[i].texto) - inicio;
-    QString texto =
-        QString::fromLatin1(reinterpret_cast<const char *>(linha + inicio), qsizetype(n));
-    if (colunas[i].brancos && n < colunas[i].largura)
-        texto.append(QString(qsizetype(colunas[i].largura - n), u' '));
+    return {reinterpret_cast<const char *>(linha + inicio), qsizetype(n)};
+}
+
+QString TLinhasCompactas::TextoGuardado(const unsigned char *linha, size_t i) const
+{
+    QString texto = Guardado(linha, i);
+    const auto largura = qsizetype(colunas[i].largura);
+    if (colunas[i].brancos && texto.size() < largura)
+        texto.append(QString(largura - texto.size(), u' '));
     return texto;
 }
 

@@ -2,6 +2,7 @@
 
 // Private to this floor.
 
+#include "platform/core/TEspacoDeTexto.h"
 #include "platform/core/Variant.h"
 
 #include <QByteArray>
@@ -60,6 +61,9 @@ public:
     bool Nula(int linha, int coluna) const;
     Variant Valor(int linha, int coluna) const;
     QString Texto(int linha, int coluna) const;
+    /** Valor(...).AsString(), not copied where the row has it; valid as long as rows and espaco
+     * stay. */
+    QAnyStringView TextoDoValor(int linha, int coluna, TEspacoDeTexto &espaco) const;
     qint64 BytesUsados() const;
 
 private:
@@ -75,6 +79,7 @@ private:
                      const std::vector<QByteArray> &blobs, std::uint32_t &fim) const;
     unsigned char *Alocar(size_t bytes);
     std::uint32_t LerFim(const unsigned char *linha, std::int32_t texto) const;
+    QLatin1StringView Guardado(const unsigned char *linha, size_t i) const;
     QString TextoGuardado(const unsigned char *linha, size_t i) const;
     std::int64_t Inteiro(const unsigned char *linha, size_t i) const;
 

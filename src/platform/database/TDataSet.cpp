@@ -170,6 +170,12 @@ QString TDataSet::CelulaTexto(int linha, int coluna) const
     return CelulaValor(linha, coluna).AsString();
 }
 
+QAnyStringView TDataSet::CelulaTextoDoValor(int linha, int coluna, TEspacoDeTexto &espaco) const
+{
+    espaco.texto = CelulaValor(linha, coluna).AsString();
+    return espaco.texto;
+}
+
 void TDataSet::GravarCelula(const TField &campo, const Variant &)
 {
     throw EDatabaseError(

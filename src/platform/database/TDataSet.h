@@ -99,6 +99,8 @@ protected:
     virtual bool CelulaNula(int linha, int coluna) const = 0;
     virtual Variant CelulaValor(int linha, int coluna) const = 0;
     virtual QString CelulaTexto(int linha, int coluna) const;
+    /** The text of the value (see Variant), which may stand in espaco. */
+    virtual QAnyStringView CelulaTextoDoValor(int linha, int coluna, TEspacoDeTexto &espaco) const;
     /** Writes a value into the row under edit. Refused here: most datasets only read. */
     virtual void GravarCelula(const TField &campo, const Variant &valor);
     /** The current row is about to be left: a dataset with an edit state ends it. */

@@ -35,6 +35,12 @@ QString TField::AsString() const
     return linha < 0 ? QString() : dataSet->CelulaTexto(linha, coluna);
 }
 
+QAnyStringView TField::TextoDoValor(TEspacoDeTexto &espaco) const
+{
+    const int linha = Linha();
+    return linha < 0 ? QAnyStringView() : dataSet->CelulaTextoDoValor(linha, coluna, espaco);
+}
+
 int TField::AsInteger() const
 {
     return Value().AsInteger();

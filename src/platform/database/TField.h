@@ -1,8 +1,10 @@
 #pragma once
 
 #include "platform/core/TAlignment.h"
+#include "platform/core/TEspacoDeTexto.h"
 #include "platform/core/Variant.h"
 
+#include <QAnyStringView>
 #include <QString>
 
 namespace ficha
@@ -78,6 +80,9 @@ public:
      * and 64-bit integers show all their digits, also those beyond the 15 that a double keeps.
      */
     QString AsString() const;
+    /** Value().AsString(), not copied where the dataset has it as a text; valid until the rows
+     * change or espaco is used again. For those that go through many rows. */
+    QAnyStringView TextoDoValor(TEspacoDeTexto &espaco) const;
     /** 0 for Null. */
     int AsInteger() const;
     double AsFloat() const;

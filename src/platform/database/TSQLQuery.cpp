@@ -136,4 +136,9 @@ QString TSQLQuery::CelulaTexto(int linha, int coluna) const
     return d->linhas.Texto(linha, coluna);
 }
 
+QAnyStringView TSQLQuery::CelulaTextoDoValor(int linha, int coluna, TEspacoDeTexto &espaco) const
+{
+    return d->linhas.TextoDoValor(linha, coluna, espaco);
+}
+
 } // namespace ficha

@@ -46,6 +46,7 @@ protected:
     bool CelulaNula(int linha, int coluna) const override;
     Variant CelulaValor(int linha, int coluna) const override;
     QString CelulaTexto(int linha, int coluna) const override;
+    QAnyStringView CelulaTextoDoValor(int linha, int coluna, TEspacoDeTexto &espaco) const override;
 
 private:
     struct TPrivado;

@@ -32,7 +32,7 @@ TStringGrid::TStringGrid(QWidget *owner)
 
 TStringGrid::~TStringGrid() = default;
 
-void TStringGrid::SetCell(int col, int row, const QString &texto)
+void TStringGrid::SetCell(int col, int row, QAnyStringView texto)
 {
     if (CelulaExiste(col, row) && textos->celulas.Gravar(col, row, texto))
         InvalidarLinha(row);

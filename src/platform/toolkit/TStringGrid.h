@@ -30,7 +30,7 @@ public:
     using TCustomGrid::SetRowCount;
 
     /** Writing the text that a cell holds already changes and repaints nothing. */
-    void SetCell(int col, int row, const QString &texto);
+    void SetCell(int col, int row, QAnyStringView texto);
     QAnyStringView CellTexto(int col, int row) const override;
     /** The text of a cell into a string of the caller's, whose memory is used again. */
     void CellTexto(int col, int row, QString &saida) const;
