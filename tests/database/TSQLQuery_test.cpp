@@ -5,6 +5,7 @@
 
 #include <QElapsedTimer>
 
+#include <cfenv>
 #include <cmath>
 
 using namespace ficha;
@@ -166,6 +167,20 @@ TEST_F(TSQLQueryTest, FloatIsTheShortestDecimalAndDoubleIsExact)
     EXPECT_EQ(Gravado(QStringLiteral("d"), QStringLiteral("3.141592653589793e0"))->AsFloat(),
               3.141592653589793);
     EXPECT_EQ(Gravado(QStringLiteral("d"), QStringLiteral("1e-300"))->AsFloat(), 1e-300);
+}
+
+TEST_F(TSQLQueryTest, ReadingLeavesTheCallersFloatingPointEnvironment)
+{
+    std::fenv_t antes;
+    std::fegetenv(&antes);
+    std::fesetround(FE_UPWARD);
+    std::feraiseexcept(FE_DIVBYZERO);
+    Abrir(QStringLiteral("select * from rdb$relations"));
+    const int modo = std::fegetround();
+    const int marcas = std::fetestexcept(FE_DIVBYZERO);
+    std::fesetenv(&antes);
+    EXPECT_EQ(modo, FE_UPWARD);
+    EXPECT_EQ(marcas, FE_DIVBYZERO);
 }
 
 TEST_F(TSQLQueryTest, DatesFromTheFirstToTheLastTheEngineKnows)
