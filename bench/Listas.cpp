@@ -208,7 +208,7 @@ void MedirCliques(const QStringList &nomes, const QString &tamanho)
          .Par = {par, {}},
          .Sentido = bancada::TSentido::NoMinimo,
          .Limite = 5,
-         .NaVerificacao = 2.5,
+         .NaVerificacao = 2,
          .Nota = "from pressing the button over the title to the painted list: the keys of all "
                  "rows, the sort, the list put together, the title marked, the repaint; the peer "
                  "over a QStandardItemModel in a QTableView; both end in the same order"});
@@ -218,7 +218,7 @@ void MedirCliques(const QStringList &nomes, const QString &tamanho)
                      .Par = {pares, {}},
                      .Sentido = bancada::TSentido::NoMinimo,
                      .Limite = 50,
-                     .NaVerificacao = 10});
+                     .NaVerificacao = 8});
 }
 
 /** Paints counted, as a key may leave the list where it is. */
@@ -339,7 +339,7 @@ void MedirTeclas(const QStringList &nomes, const QString &tamanho)
              .Trabalho = trabalho + (filtrar ? "filtering" : "positioning") + ", 99 in 100 within",
              .Nosso = {nosso, QStringLiteral("p99")},
              .Limite = 0.016,
-             .NaVerificacao = 0.032,
+             .NaVerificacao = 0.040,
              .Nota = filtrar ? QString()
                              : QStringLiteral("from the key to the painted list, "
                                               "texts typed and taken back again")});

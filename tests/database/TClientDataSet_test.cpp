@@ -681,6 +681,79 @@ TEST_F(TClientDataSetTest, TheTypedFilterShowsRowsWithTheTextInOneOfTheFields)
                  EDatabaseError);
 }
 
+/** What earlier texts found is remembered: whatever is typed on, taken back or changed in between,
+ * the rows are those that a look at every one of them finds. */
+TEST_F(TClientDataSetTest, TextsTypedOnAndTakenBackFindWhatEachWouldFindAlone)
+{
+    QRandomGenerator sorte(14);
+    const QStringList letras = L("a b á B");
+    const auto palavra = [&](int n) {
+        QString texto;
+        while (texto.size() < n)
+            texto += letras[sorte.bounded(4)];
+        return texto;
+    };
+    QStringList todos; // the names of all rows
+    cds.SetFiltered(true);
+    for (int i = 0; i < 60; ++i) {
+        todos << palavra(1 + sorte.bounded(7));
+        cds.AppendRecord({todos.back(), i, Null, Null, 1});
+    }
+    QString texto = QStringLiteral("a");
+    for (int vez = 0; vez < 3000; ++vez) {
+        const int acao = sorte.bounded(100);
+        if (acao < 45 && texto.size() < 5) {
+            texto += palavra(1);
+        } else if (acao < 80) {
+            texto.chop(texto.size() > 1 ? 1 : 0);
+        } else if (acao < 90) {
+            texto = palavra(1 + sorte.bounded(3));
+        } else if (acao < 95) {
+            todos << palavra(1 + sorte.bounded(7));
+            cds.AppendRecord({todos.back(), vez, Null, Null, 1});
+        } else if (!cds.IsEmpty() && todos.size() > 30) {
+            todos.removeOne(nome->AsString());
+            cds.Delete();
+        }
+        const unsigned opcoes =
+            sorte.bounded(5) == 0 ? loCaseInsensitive
+                                  : loCaseInsensitive | (vez / 50 % 2 ? loContains : loPartialKey);
+        cds.SetFilterText(QStringLiteral("nome"), texto, opcoes);
+        const QString procurado = TColacao::Dobrar(texto);
+        QStringList esperado;
+        for (const QString &este : todos) {
+            const QString dobrado = TColacao::Dobrar(este);
+            if (opcoes & loContains     ? dobrado.contains(procurado)
+                : opcoes & loPartialKey ? dobrado.startsWith(procurado)
+                                        : dobrado == procurado)
+                esperado << este;
+        }
+        QStringList achados = Nomes();
+        esperado.sort();
+        achados.sort();
+        ASSERT_EQ(achados, esperado) << qPrintable(texto) << " after " << vez;
+    }
+    EXPECT_GT(todos.size(), 30);
+}
+
+TEST_F(TClientDataSetTest, ARowUnderEditIsFoundByItsNewTextOnly)
+{
+    Por(L("maca pera"));
+    cds.SetFiltered(true);
+    const auto filtrar = [&](const char *texto) {
+        cds.SetFilterText(QStringLiteral("nome"), QString::fromUtf8(texto), loContains);
+        return Nomes();
+    };
+    EXPECT_EQ(filtrar("ma"), L("maca"));
+    cds.Edit();
+    nome->SetValue(QStringLiteral("figo"));
+    cds.Post();
+    EXPECT_EQ(filtrar("m"), QStringList());
+    EXPECT_EQ(filtrar("ma"), QStringList());
+    EXPECT_EQ(filtrar("f"), L("figo"));
+    EXPECT_EQ(filtrar("fi"), L("figo"));
+}
+
 TEST_F(TClientDataSetTest, BookmarksComeBackToTheirRow)
 {
     Por(L("c a b"));
