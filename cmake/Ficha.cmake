@@ -23,8 +23,9 @@ file(GLOB FICHA_LAYOUTS CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/layouts/*.ui"
      "${CMAKE_SOURCE_DIR}/src/layouts/pictures/*.svg" "${CMAKE_SOURCE_DIR}/src/layouts/pictures/*.png")
 add_library(ficha_layouts OBJECT)
 if(FICHA_LAYOUTS)
+    # Read when a screen opens, each once: unpacking them takes longer than their 200 kB are worth.
     qt_add_resources(ficha_layouts ficha_layouts PREFIX "/ficha"
-                     BASE "${CMAKE_SOURCE_DIR}/src" FILES ${FICHA_LAYOUTS})
+                     BASE "${CMAKE_SOURCE_DIR}/src" OPTIONS --no-compress FILES ${FICHA_LAYOUTS})
 else()
     file(WRITE "${CMAKE_BINARY_DIR}/ficha_sem_layouts.cpp" "// No layouts.\n")
     target_sources(ficha_layouts PRIVATE "${CMAKE_BINARY_DIR}/ficha_sem_layouts.cpp")

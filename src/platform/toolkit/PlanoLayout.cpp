@@ -367,7 +367,7 @@ TPlanoCelula TCompilador::LerCelula(const TElementoUi &el, TPlanoWidget &dono, c
     celula.linhas = Numero(el, "rowspan", 1);
     celula.colunas = Numero(el, "colspan", 1);
     QString erro;
-    if (el.Atributos.contains(QStringLiteral("alignment")))
+    if (el.TemAtributo("alignment"))
         celula.alinhamento = Qt::Alignment::fromInt(
             LerEnumUi(el.Atributo("alignment"), QMetaEnum::fromType<Qt::Alignment>(), erro)
                 .toInt());

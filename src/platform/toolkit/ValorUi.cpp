@@ -60,7 +60,7 @@ QColor LerCor(const TElementoUi &el, QString &erro)
     int r = 0, g = 0, b = 0, a = 255;
     if (!LerPartes(el, {{"red", &r}, {"green", &g}, {"blue", &b}}, erro))
         return {};
-    if (el.Atributos.contains(QStringLiteral("alpha")))
+    if (el.TemAtributo("alpha"))
         LerInteiro(el.Atributo("alpha"), a);
     const QColor cor(r, g, b, a);
     if (!cor.isValid())
