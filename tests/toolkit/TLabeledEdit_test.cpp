@@ -184,3 +184,44 @@ TEST_F(Rotulado, LayoutsCanPlaceAndSetIt)
     EXPECT_TRUE(edit->isReadOnly());
     EXPECT_TRUE(edit->alignment() & Qt::AlignRight);
 }
+
+TEST_F(Rotulado, LabelIsAsLargeAsAnyLabelOfThatText)
+{
+    TBoundLabel *rotulo = edit->EditLabel;
+    const QStringList textos = {QStringLiteral("Código"),
+                                QStringLiteral("W"),
+                                QStringLiteral("f"),
+                                QStringLiteral(" "),
+                                QStringLiteral("Máx: 30 letras   Atual: "),
+                                QStringLiteral("a\tb"),
+                                QStringLiteral("duas\nlinhas"),
+                                QStringLiteral("&Nome"),
+                                QStringLiteral("P && D"),
+                                QStringLiteral("<b>forte</b>"),
+                                QStringLiteral("€ 漢字"),
+                                QString(3000, u'x')};
+    QFont grande = rotulo->font();
+    grande.setPointSize(14);
+    grande.setBold(true);
+    for (const QFont &fonte : {rotulo->font(), grande}) {
+        rotulo->setFont(fonte);
+        for (const QString &texto : textos) {
+            rotulo->setText(texto);
+            for (const auto lado : {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter}) {
+                rotulo->setAlignment(lado | Qt::AlignVCenter);
+                EXPECT_EQ(rotulo->sizeHint(), rotulo->QLabel::sizeHint()) << texto.toStdString();
+            }
+        }
+    }
+    rotulo->setText(QStringLiteral("Nome"));
+    rotulo->setMinimumWidth(200);
+    EXPECT_EQ(rotulo->sizeHint(), rotulo->QLabel::sizeHint());
+    rotulo->setMargin(3);
+    EXPECT_EQ(rotulo->sizeHint(), rotulo->QLabel::sizeHint());
+    rotulo->setFrameShape(QFrame::Box);
+    EXPECT_EQ(rotulo->sizeHint(), rotulo->QLabel::sizeHint());
+    rotulo->setFrameShape(QFrame::NoFrame);
+    rotulo->setMargin(0);
+    rotulo->setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(rotulo->sizeHint(), rotulo->QLabel::sizeHint());
+}

@@ -1,6 +1,7 @@
 #include "platform/toolkit/TBoundLabel.h"
 
 #include <QEvent>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -43,6 +44,26 @@ void TBoundLabel::Posicionar()
     if (sala < height())
         resize(width(), std::max(std::min(height(), sala + espaco), fontMetrics().height()));
     move(controle->x(), std::max(0, sala - height()));
+}
+
+QSize TBoundLabel::sizeHint() const
+{
+    // A mnemonic, markup, tabs, more lines or a frame: the general case.
+    const bool marcado = textFormat() != Qt::PlainText &&
+                         (textFormat() != Qt::AutoText || Qt::mightBeRichText(text()));
+    const QString texto = text();
+    const bool especial = std::ranges::any_of(texto, [](QChar c) { return c < u' ' || c == u'&'; });
+    if (marcado || especial || wordWrap() || margin() != 0 || indent() > 0 || frameWidth() != 0 ||
+        !contentsMargins().isNull())
+        return QLabel::sizeHint();
+    ensurePolished();
+    constexpr int SemLimite = 2000;
+    const auto lado = QStyle::visualAlignment(layoutDirection(), alignment()) &
+                      ~(Qt::AlignVCenter | Qt::AlignHCenter);
+    return fontMetrics()
+        .boundingRect(0, 0, SemLimite, SemLimite, int(lado.toInt()), texto)
+        .size()
+        .expandedTo(minimumSize());
 }
 
 bool TBoundLabel::eventFilter(QObject *alvo, QEvent *evento)

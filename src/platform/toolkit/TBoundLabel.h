@@ -31,6 +31,8 @@ public:
     /** Puts the label where it belongs. Runs by itself; an edit not shown yet tells of its moves
      * only when it is shown, and this does not wait for that. */
     void Posicionar();
+    /** QLabel's, measured once where QLabel measures a plain line three times. */
+    QSize sizeHint() const override;
 
 protected:
     bool eventFilter(QObject *alvo, QEvent *evento) override;
