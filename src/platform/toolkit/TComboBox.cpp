@@ -8,6 +8,7 @@
 #include "platform/toolkit/TCustomEdit.h"
 
 #include <QAbstractItemView>
+#include <QCompleter>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPointer>
@@ -70,6 +71,20 @@ public:
 private:
     QPointer<TComboBox> combo;
 };
+
+namespace
+{
+
+/** One for all combos; none of them keeps it. */
+QCompleter *SemComplemento()
+{
+    static QPointer<QCompleter> nenhum;
+    if (!nenhum)
+        nenhum = new QCompleter(qApp);
+    return nenhum;
+}
+
+} // namespace
 
 TComboBox::TComboBox(QWidget *owner) : QComboBox(owner)
 {
@@ -382,8 +397,10 @@ void TComboBox::focusOutEvent(QFocusEvent *evento)
 void TComboBox::MontarEdit()
 {
     auto *edit = new TComboLineEdit(this);
+    // Completion is ours: the list must know which item the text is. An edit that comes with a
+    // completer is spared the making of one, which takes as long as the rest of the combo.
+    edit->setCompleter(SemComplemento());
     setLineEdit(edit);
-    // Completion is ours: the list must know which item the text is.
     setCompleter(nullptr);
     edit->SetMaxLength(maxLength);
     connect(edit, &QLineEdit::textChanged, this, [this] { indiceVelho = true; });
