@@ -125,6 +125,39 @@ private:
     QIcon icone;
 };
 
+/** One icon while enabled and another while disabled. */
+class TIconeDeEstados : public QIconEngine
+{
+public:
+    TIconeDeEstados(QIcon normal_, QIcon apagado_)
+        : normal(std::move(normal_)), apagado(std::move(apagado_))
+    {
+    }
+
+    void paint(QPainter *pintor, const QRect &onde, QIcon::Mode modo, QIcon::State estado) override
+    {
+        Icone(modo).paint(pintor, onde, Qt::AlignCenter, QIcon::Normal, estado);
+    }
+    QPixmap pixmap(const QSize &tamanho, QIcon::Mode modo, QIcon::State estado) override
+    {
+        return Icone(modo).pixmap(tamanho, 1.0, QIcon::Normal, estado);
+    }
+    QSize actualSize(const QSize &tamanho, QIcon::Mode modo, QIcon::State estado) override
+    {
+        return Icone(modo).actualSize(tamanho, QIcon::Normal, estado);
+    }
+    bool isNull() override { return normal.isNull() && apagado.isNull(); }
+    QIconEngine *clone() const override { return new TIconeDeEstados(normal, apagado); }
+
+private:
+    const QIcon &Icone(QIcon::Mode modo) const
+    {
+        return modo == QIcon::Disabled || normal.isNull() ? apagado : normal;
+    }
+
+    QIcon normal, apagado;
+};
+
 } // namespace
 
 TImageList::TImageList(QObject *owner, QSize tamanho_) : QObject(owner), tamanho(tamanho_) {}
@@ -207,6 +240,11 @@ QIcon IconeSvg(const QString &figura)
 {
     const QString caminho = Caminho(figura);
     return QIcon(new TSvgIconEngine(caminho, Desenhista(caminho)));
+}
+
+QIcon IconeComApagado(const QIcon &normal, const QIcon &apagado)
+{
+    return QIcon(new TIconeDeEstados(normal, apagado));
 }
 
 QPixmap PixmapSvg(const QString &figura, QSize tamanho, qreal razao)

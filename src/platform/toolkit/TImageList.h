@@ -62,6 +62,8 @@ private:
     std::map<int, QIcon> icones;
 };
 
+/** An icon that looks like the second one where it is disabled; both draw when they are shown. */
+QIcon IconeComApagado(const QIcon &normal, const QIcon &apagado);
 /** A vector picture as an icon; the same names as TImageList::AddSvg, the same refusal. */
 QIcon IconeSvg(const QString &figura);
 /** A vector picture drawn at a size; an empty size means the picture's own. */

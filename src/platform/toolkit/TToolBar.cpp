@@ -111,11 +111,7 @@ QIcon TToolButton::Figura() const
     const TImageList *apagadas = barra->GetDisabledImages();
     if (!apagadas || !apagadas->Tem(indice))
         return normais->GetIcon(indice);
-    QIcon figura;
-    const qreal razao = devicePixelRatioF();
-    figura.addPixmap(normais->GetPixmap(indice, razao), QIcon::Normal);
-    figura.addPixmap(apagadas->GetPixmap(indice, razao), QIcon::Disabled);
-    return figura;
+    return IconeComApagado(normais->GetIcon(indice), apagadas->GetIcon(indice));
 }
 
 /** Brings the button up to its action and its bar. */
