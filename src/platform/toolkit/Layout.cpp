@@ -495,12 +495,15 @@ QList<QWidget *> Paradas(QWidget *controle)
         return {controle};
     QList<QWidget *> paradas;
     QWidget *w = controle;
+    // They stand together as a rule, and the way round the whole window is long.
+    auto faltam = 1 + controle->findChildren<QWidget *>().size();
     do {
         const bool dentro = w == controle || controle->isAncestorOf(w);
         if (dentro && !w->focusProxy() && w->focusPolicy() != Qt::NoFocus)
             paradas << w;
+        faltam -= dentro ? 1 : 0;
         w = w->nextInFocusChain();
-    } while (w && w != controle);
+    } while (faltam > 0 && w && w != controle);
     return paradas;
 }
 
