@@ -2,7 +2,7 @@
 
 #include "platform/toolkit/TComboBox.h"
 
-#include <QListView>
+#include <QAbstractItemView>
 #include <QScreen>
 #include <QStyle>
 
@@ -13,9 +13,7 @@ namespace ficha
 
 void PrepararLista(TComboBox &combo)
 {
-    combo.view()->setTextElideMode(Qt::ElideRight);
-    if (auto *lista = qobject_cast<QListView *>(combo.view()))
-        lista->setUniformItemSizes(true);
+    combo.SetLinhasIguais(true);
 }
 
 void AlargarLista(TComboBox &combo)

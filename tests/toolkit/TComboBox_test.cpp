@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QLineEdit>
+#include <QListView>
 #include <QSignalSpy>
 #include <QStringListModel>
 #include <QWheelEvent>
@@ -386,6 +387,52 @@ TEST_F(Combo, FocusOutChangesNothing)
     EXPECT_EQ(combo->GetText(), QStringLiteral("SANTOS"));
     EXPECT_EQ(combo->GetItemIndex(), 1);
     EXPECT_EQ(mudancas, 0);
+}
+
+TEST_F(Combo, RowsOfTheListHaveTheHeightThatWasSetBeforeItOpenedOrLater)
+{
+    const auto altura = [this] {
+        return combo->view()->visualRect(combo->model()->index(1, 0)).height();
+    };
+    combo->SetItemHeight(31);
+    Abrir();
+    combo->showPopup();
+    EXPECT_EQ(altura(), 31);
+    combo->hidePopup();
+    combo->SetItemHeight(40);
+    combo->showPopup();
+    EXPECT_EQ(altura(), 40);
+}
+
+TEST_F(Combo, RowsThatAreAlikeAreMeasuredOnceWhetherSaidBeforeTheListOpensOrLater)
+{
+    const auto iguais = [this] {
+        const auto *lista = qobject_cast<QListView *>(combo->view());
+        return lista->uniformItemSizes() && lista->textElideMode() == Qt::ElideRight;
+    };
+    EXPECT_FALSE(combo->GetLinhasIguais());
+    combo->SetLinhasIguais(true);
+    Abrir();
+    combo->showPopup();
+    EXPECT_TRUE(iguais());
+    combo->SetLinhasIguais(false);
+    EXPECT_FALSE(iguais());
+    combo->SetLinhasIguais(true);
+    EXPECT_TRUE(iguais());
+}
+
+TEST_F(Combo, ItsSizeIsNotTakenFromItsItemsUnlessTheHostSaysSo)
+{
+    combo->AddItem(QString(200, u'W'));
+    const int largura = combo->fontMetrics().horizontalAdvance(QString(200, u'W'));
+    EXPECT_LT(combo->sizeHint().width(), 100);
+    EXPECT_LT(combo->minimumSizeHint().width(), 100);
+    TComboBox outro;
+    outro.setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    outro.AddItem(QString(200, u'W'));
+    EXPECT_GT(outro.sizeHint().width(), largura);
+    janela.Abrir();
+    EXPECT_EQ(combo->width(), 145);
 }
 
 TEST_F(Combo, PropertiesForLayouts)

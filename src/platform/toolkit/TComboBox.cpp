@@ -11,6 +11,7 @@
 #include <QCompleter>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QListView>
 #include <QPointer>
 #include <QWheelEvent>
 
@@ -90,7 +91,6 @@ TComboBox::TComboBox(QWidget *owner) : QComboBox(owner)
 {
     setFocusPolicy(Qt::StrongFocus);
     setInsertPolicy(QComboBox::NoInsert);
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(1);
     connect(this, &QComboBox::currentIndexChanged, this, [this] { indiceVelho = true; });
     connect(this, &QComboBox::activated, this, [this] {
@@ -269,7 +269,15 @@ void TComboBox::SetIgnoraAcentos(bool v)
 void TComboBox::SetItemHeight(int pixels)
 {
     itemHeight = pixels > 0 ? pixels : 0;
-    setItemDelegate(new TAlturaDeItem(itemHeight, this));
+    if (listaPreparada)
+        setItemDelegate(new TAlturaDeItem(itemHeight, this));
+}
+
+void TComboBox::SetLinhasIguais(bool v)
+{
+    linhasIguais = v;
+    if (listaPreparada)
+        AplicarLinhasIguais();
 }
 
 void TComboBox::SetMaxLength(int n)
@@ -316,6 +324,18 @@ void TComboBox::setModel(QAbstractItemModel *novo)
     AcompanharModelo();
 }
 
+QSize TComboBox::sizeHint() const
+{
+    DispensarItens();
+    return QComboBox::sizeHint();
+}
+
+QSize TComboBox::minimumSizeHint() const
+{
+    DispensarItens();
+    return QComboBox::minimumSizeHint();
+}
+
 void TComboBox::showPopup()
 {
     const QPointer<TComboBox> vivo(this);
@@ -323,10 +343,7 @@ void TComboBox::showPopup()
         Protegido([this] { OnDropDown(this); });
     if (!vivo)
         return;
-    if (!listaPreparada) {
-        view()->installEventFilter(this);
-        listaPreparada = true;
-    }
+    PrepararLista();
     if (escopos == 0)
         anunciado = Estado();
     // The list takes the keyboard, and the edit forgets its selection; the completion is one.
@@ -392,6 +409,39 @@ void TComboBox::focusOutEvent(QFocusEvent *evento)
         evento->reason() == Qt::ActiveWindowFocusReason || evento->reason() == Qt::PopupFocusReason;
     if (vivo && saindo && !volta && !DroppedDown())
         MostrarInicio();
+}
+
+/** The list makes itself when it is first asked for, and that takes longer than everything else in
+ * a combo: not before it opens. */
+void TComboBox::PrepararLista()
+{
+    if (listaPreparada)
+        return;
+    listaPreparada = true;
+    view()->installEventFilter(this);
+    if (itemHeight > 0)
+        setItemDelegate(new TAlturaDeItem(itemHeight, this));
+    if (linhasIguais)
+        AplicarLinhasIguais();
+}
+
+void TComboBox::AplicarLinhasIguais()
+{
+    view()->setTextElideMode(linhasIguais ? Qt::ElideRight : Qt::ElideMiddle);
+    if (auto *lista = qobject_cast<QListView *>(view()))
+        lista->setUniformItemSizes(linhasIguais);
+}
+
+/** The size is not taken from the items; a policy that somebody has set stays. Only when a size is
+ * asked for, because the policy makes the list. */
+void TComboBox::DispensarItens() const
+{
+    if (itensDispensados)
+        return;
+    itensDispensados = true;
+    if (sizeAdjustPolicy() == QComboBox::AdjustToContentsOnFirstShow)
+        const_cast<TComboBox *>(this)->setSizeAdjustPolicy(
+            QComboBox::AdjustToMinimumContentsLengthWithIcon);
 }
 
 void TComboBox::MontarEdit()

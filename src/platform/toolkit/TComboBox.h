@@ -110,6 +110,10 @@ public:
     /** Height of a row of the list, pixels; 0 lets the font decide. */
     int GetItemHeight() const { return itemHeight; }
     void SetItemHeight(int pixels);
+    /** The rows of the list are alike: one is measured, not every one, and what is too long is cut
+     * at its end. For lists of thousands. Default false. */
+    bool GetLinhasIguais() const { return linhasIguais; }
+    void SetLinhasIguais(bool v);
     /** Characters that the user may type; 0 is no limit. */
     int GetMaxLength() const { return maxLength; }
     void SetMaxLength(int n);
@@ -125,6 +129,9 @@ public:
     void SelectAll();
 
     void setModel(QAbstractItemModel *novo) override;
+    /** Of one character and the arrow, whatever the items: the layout gives a combo its width. */
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
     /** Calls OnDropDown, then opens the list. */
     void showPopup() override;
     void hidePopup() override;
@@ -170,6 +177,9 @@ private:
     int PrimeiroComecadoPor(const QString &texto) const;
     int ComecadoPor(const QString &texto, int desde) const;
     void AcompanharLista();
+    void PrepararLista();
+    void AplicarLinhasIguais();
+    void DispensarItens() const;
     bool TeclaNaLista(QKeyEvent *evento);
 
     struct TBusca {
@@ -195,7 +205,9 @@ private:
     bool autoCloseUp = false;
     bool autoComplete = true;
     bool ignoraAcentos = false;
+    bool linhasIguais = false;
     bool listaPreparada = false;
+    mutable bool itensDispensados = false;
 };
 
 } // namespace ficha
