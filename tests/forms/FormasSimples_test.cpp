@@ -28,7 +28,8 @@ const QString Esquema = QStringLiteral(R"(
     create table tipos (tipos_cod integer not null primary key, rotulo varchar(20));
     create table clientes (clientes_cod integer not null, serie integer not null,
         nome varchar(40), limite numeric(15,2), nascimento date, tipos_cod integer,
-        situacao char(1), primary key (clientes_cod, serie));
+        situacao char(1), sigla char(5), nivel smallint, gravado timestamp,
+        primary key (clientes_cod, serie));
     create generator clientes_cod_gen;
     insert into tipos values (1, 'Varejo');
     insert into tipos values (2, 'Atacado');
@@ -41,7 +42,10 @@ const QString Esquema = QStringLiteral(R"(
                 iif(mod(:i, 17) = 0, null, mod(:i * 117, 10000) / 10.00),
                 iif(mod(:i, 11) = 0, null, date '1960-01-01' + :i * 7),
                 iif(mod(:i, 5) = 0, null, mod(:i, 2) + 1),
-                iif(mod(:i, 13) = 0, null, iif(mod(:i, 2) = 0, 'A', 'I')));
+                iif(mod(:i, 13) = 0, null, iif(mod(:i, 2) = 0, 'A', 'I')),
+                iif(mod(:i, 9) = 0, null, 'S' || mod(:i, 90)),
+                iif(mod(:i, 8) = 0, null, mod(:i, 4)),
+                iif(mod(:i, 6) = 0, null, timestamp '2024-02-28 08:00:00' + :i * 0.13));
             i = i + 1;
         end
     end^)");
@@ -74,6 +78,7 @@ public:
                                                : QStringLiteral("Exibindo todos"));
         SetSQLText(Consulta(Codigo + QStringLiteral(" as clientes_cod, c.serie, c.nome, c.limite, "
                                                     "c.nascimento, c.tipos_cod, c.situacao, "
+                                                    "c.sigla, c.nivel, c.gravado, "
                                                     "t.rotulo"),
                             Onde()));
     }
@@ -110,6 +115,9 @@ protected:
         Por(NascimentoFr, 208);
         Por(TipoFr, 260);
         TipoFr->AceitaVazio = true;
+        niveis.Clear();
+        for (const char *nivel : {"baixo", "médio", "alto"})
+            niveis.Add(QString::fromUtf8(nivel));
         TTabLinFiltroBasF::FormCreate(sender);
         TipoFr->SetSQLText(QStringLiteral("select tipos_cod, rotulo from tipos order by rotulo"));
     }
@@ -129,8 +137,16 @@ protected:
                 texto = c->Valor.AsString() + u'/' + Tab->Campos->Campos(5)->TextoEstrangeiro;
             };
         } else {
-            Tab->PegarCampo(campo("situacao"), 80);
+            TCampo *situacao = Tab->PegarCampo(campo("situacao"), 80);
+            situacao->Tipo = 5;
+            situacao->ListaChar = std::make_unique<TLinhas>();
+            situacao->ListaChar->Add(QStringLiteral("ativo"), u'A');
+            situacao->ListaChar->Add(QStringLiteral("sem"), u' ');
         }
+        Tab->PegarCampo(campo("sigla"), 50);
+        Tab->PegarCampo(campo("nivel"), 60)->Lista = &niveis;
+        Tab->PegarCampo(campo("nivel"), 40)->Tipo = 6;
+        Tab->PegarCampo(campo("gravado"), 130);
     }
     void AntesInserir() override
     {
@@ -142,7 +158,7 @@ protected:
                                  LimiteFr->SQLString(),
                                  NascimentoFr->SQLString(),
                                  Tipo(),
-                                 QStringLiteral("'A'")}
+                                 QStringLiteral("'A', 'S', 1, timestamp '2026-11-20 09:30:00'")}
                          .join(u',') +
                      u')';
         SQLUltimoInserido =
@@ -158,6 +174,8 @@ public:
     static inline bool ComEvento = false;
 
 private:
+    TLinhas niveis;
+
     QString Tipo() const
     {
         return TipoFr->GetValor() == Variant(0) ? QStringLiteral("null") : TipoFr->SQLString();
