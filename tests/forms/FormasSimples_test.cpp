@@ -416,6 +416,8 @@ public:
     {
         return Banco.Valor(QStringLiteral("select count(*) from clientes")).AsInteger();
     }
+    /** Something more to compare. */
+    void Anotar(const QStringList &linhas) { Passos << linhas; }
     /** The messages since the last time. */
     QStringList Ditos() { return std::exchange(ditos, {}); }
 
@@ -484,6 +486,24 @@ void Travar(TVez &v)
 const TOperacao Operacoes[] = {
     {"Opening", [](TVez &v) { v.ConferirLista(); }},
     {"OpeningWithTextsThatLookAtOtherFields", [](TVez &v) { v.ConferirLista(); }, "", true},
+    {"EveryFieldIntoAStringList",
+     [](TVez &v) {
+         v.NaLinha(77);
+         TTabelaLinear &tab = *v.Tela->Tab;
+         for (int i = 0; i < tab.Campos->Count(); ++i) {
+             TLinhas lista;
+             tab.PreencherStringList(lista, i);
+             ASSERT_EQ(lista.Count(), 300);
+             QStringList textos;
+             for (int n = 0; n < lista.Count(); ++n) {
+                 textos << lista.Texto(n);
+                 ASSERT_EQ(textos.last(), v.Tela->StringGrid1->GetCell(i, n + 1));
+             }
+             v.Anotar(textos);
+             EXPECT_EQ(tab.RecNo, 77);
+         }
+     },
+     "", true},
     {"Walking",
      [](TVez &v) {
          v.Ctrl(Qt::Key_PageDown);
