@@ -13,6 +13,45 @@
 namespace ficha
 {
 
+namespace
+{
+
+/** A visible field on its way through the rows: its texts go from the column into the grid without
+ * passing through Valor, where that shows the same. Valor ends as the walk row by row leaves it. */
+class TColunaDaGrade
+{
+public:
+    explicit TColunaDaGrade(TCampo *doCampo) : campo(doCampo) {}
+
+    /** From the dataset's row of that number into a row of the grid. */
+    void Escrever(int doDataSet, TStringGrid *grid, TGridCoord onde, TEspacoDeTexto &espaco)
+    {
+        if (direta) {
+            lida = doDataSet;
+            grid->SetCell(onde.Col, onde.Row, campo->TextoDaColuna(espaco));
+            return;
+        }
+        campo->LerColuna();
+        grid->SetCell(onde.Col, onde.Row, campo->AsString());
+        direta = campo->MostraAColuna();
+    }
+    /** Takes the value of the last row that was written. */
+    void Assentar(TDataSet *dataset)
+    {
+        if (lida == 0 || !dataset || lida > dataset->RecordCount())
+            return;
+        const TLerLinha ler(dataset, lida);
+        campo->LerColuna();
+    }
+
+private:
+    TCampo *campo;
+    bool direta = false;
+    int lida = 0; /**< row whose text was written past Valor */
+};
+
+} // namespace
+
 TTabelaLinear::TTabelaLinear(TChave chave) : TTabela(chave) {}
 
 TTabelaLinear::~TTabelaLinear()
@@ -435,45 +474,6 @@ void TTabelaLinear::PreencherTitulos(TStringGrid *grid) const
         ++coluna;
     }
 }
-
-namespace
-{
-
-/** A visible field on its way through the rows: its texts go from the column into the grid without
- * passing through Valor, where that shows the same. Valor ends as the walk row by row leaves it. */
-class TColunaDaGrade
-{
-public:
-    explicit TColunaDaGrade(TCampo *doCampo) : campo(doCampo) {}
-
-    /** From the dataset's row of that number into a row of the grid. */
-    void Escrever(int doDataSet, TStringGrid *grid, TGridCoord onde, TEspacoDeTexto &espaco)
-    {
-        if (direta) {
-            grid->SetCell(onde.Col, onde.Row, campo->TextoDaColuna(espaco));
-            lida = doDataSet;
-            return;
-        }
-        campo->LerColuna();
-        grid->SetCell(onde.Col, onde.Row, campo->AsString());
-        direta = campo->MostraAColuna();
-    }
-    /** Takes the value of the last row that was written. */
-    void Assentar(TDataSet *dataset)
-    {
-        if (lida == 0 || !dataset || lida > dataset->RecordCount())
-            return;
-        const TLerLinha ler(dataset, lida);
-        campo->LerColuna();
-    }
-
-private:
-    TCampo *campo;
-    bool direta = false;
-    int lida = 0; /**< row whose text was written past Valor */
-};
-
-} // namespace
 
 /** Only the visible fields are read from each row, save where one of them renders itself through
  * its event. */

@@ -363,6 +363,7 @@ TEST_F(TTabelaLinearTest, AFillThatFailsLeavesTheValuesOfTheRowItStandsOn)
     EXPECT_EQ(tab->RecNo, 3);
     EXPECT_EQ(tab->Campos->Campos(0)->Valor, Variant(3));
     EXPECT_EQ(tab->Campos->Campos(1)->Valor, Variant(30));
+    EXPECT_EQ(tab->Campos->Campos(2)->Valor, Variant("nome 3")) << "also of the one that failed";
 }
 
 TEST_F(TTabelaLinearTest, PreencherStringListLeavesAtualizarControlesOn)

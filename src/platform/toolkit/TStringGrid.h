@@ -29,7 +29,8 @@ public:
     using TCustomGrid::SetFixedRows;
     using TCustomGrid::SetRowCount;
 
-    /** Writing the text that a cell holds already changes and repaints nothing. */
+    /** Writing the text that a cell holds already changes and repaints nothing. The text must not
+     * be one that this grid handed out without a copy. */
     void SetCell(int col, int row, QAnyStringView texto);
     QAnyStringView CellTexto(int col, int row) const override;
     /** The text of a cell into a string of the caller's, whose memory is used again. */
