@@ -147,7 +147,11 @@ void TCampo::LerColuna()
 
 bool TCampo::MostraAColuna() const
 {
-    return Field && !EhLista() && !OnAsString && (Tipo == 0 || Tipo == 4) && ValorEhDaColuna();
+    if (!Field || EhLista() || OnAsString)
+        return false;
+    // The text of a date without a time is the date's.
+    const bool semHora = Tipo == 1 && Field->DataType() == TFieldType::ftDate;
+    return (Tipo == 0 || Tipo == 4 || semHora) && ValorEhDaColuna();
 }
 
 /** A value of the program's may equal the column's and read otherwise: SetValor leaves it. */
@@ -176,9 +180,9 @@ bool TCampo::ValorEhDaColuna() const
 
 QAnyStringView TCampo::TextoDaColuna(TEspacoDeTexto &espaco) const
 {
-    if (Tipo == 0)
+    if (Tipo != 4)
         return Aparado(Field->TextoDoValor(espaco));
-    espaco.texto = TextoPeloTipo();
+    FormatFloat(FormatoFloat, Field->AsFloat(), espaco.texto);
     return espaco.texto;
 }
 

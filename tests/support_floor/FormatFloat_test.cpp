@@ -22,6 +22,9 @@ void Conferir(std::initializer_list<TCaso> casos)
         EXPECT_EQ(FormatFloat(QString::fromUtf8(caso.padrao), caso.valor),
                   QString::fromUtf8(caso.texto))
             << caso.padrao << " of " << testing::PrintToString(caso.valor);
+        QString usada = QStringLiteral("o que havia antes");
+        FormatFloat(QString::fromUtf8(caso.padrao), caso.valor, usada);
+        EXPECT_EQ(usada, QString::fromUtf8(caso.texto));
     }
 }
 

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <optional>
 #include <vector>
 
 namespace ficha
@@ -226,7 +225,7 @@ public:
     {
     }
 
-    QString Texto(bool comSinal);
+    void Escrever(bool comSinal, QString &texto);
 
 private:
     void EscreverInteiro(int potencia);
@@ -242,7 +241,7 @@ private:
     QVarLengthArray<QChar, 64> saida;
 };
 
-QString TEscrita::Texto(bool comSinal)
+void TEscrita::Escrever(bool comSinal, QString &texto)
 {
     if (comSinal)
         saida.append(u'-');
@@ -254,7 +253,7 @@ QString TEscrita::Texto(bool comSinal)
         else
             EscreverVirgula();
     }
-    return QString(saida.constData(), saida.size());
+    texto.append(saida.constData(), saida.size());
 }
 
 void TEscrita::EscreverInteiro(int potencia)
@@ -292,35 +291,45 @@ void TEscrita::EscreverVirgula()
     lugar = 0;
 }
 
-/** The section that serves this value; the rounding to a section's decimals may make it a zero. */
-std::optional<QString> TextoDaSecao(const TSecao &secao, double valor, bool comSinal)
+/** By the section that serves this value; false, nothing written, when the rounding to its
+ * decimals makes it a zero. */
+bool EscreverPelaSecao(const TSecao &secao, double valor, bool comSinal, QString &texto)
 {
     TAlgarismos numero = Algarismos(valor);
     numero.Arredondar(secao.decimais);
     if (numero.EhZero())
-        return std::nullopt;
-    return TEscrita(secao, numero).Texto(comSinal);
+        return false;
+    TEscrita(secao, numero).Escrever(comSinal, texto);
+    return true;
 }
 
 } // namespace
 
 QString FormatFloat(const QString &padrao, double valor)
 {
+    QString texto;
+    FormatFloat(padrao, valor, texto);
+    return texto;
+}
+
+void FormatFloat(const QString &padrao, double valor, QString &saida)
+{
+    saida.resize(0);
     if (!std::isfinite(valor))
-        return {};
-    if (padrao.isEmpty())
-        return DoubleParaTexto(valor);
+        return;
+    if (padrao.isEmpty()) {
+        saida = DoubleParaTexto(valor);
+        return;
+    }
     const TPadrao &secoes = PadraoPronto(padrao);
     // An empty section leaves its values to the first one.
     const bool temNegativa = secoes.size() > 1 && !secoes[1].pecas.empty();
     const bool temZero = secoes.size() > 2 && !secoes[2].pecas.empty();
     const bool negativo = valor < 0;
     const TSecao &secao = negativo && temNegativa ? secoes[1] : secoes[0];
-    if (valor != 0) {
-        if (auto texto = TextoDaSecao(secao, valor, negativo && !temNegativa))
-            return *texto;
-    }
-    return TEscrita(temZero ? secoes[2] : secoes[0], TAlgarismos()).Texto(false);
+    if (valor != 0 && EscreverPelaSecao(secao, valor, negativo && !temNegativa, saida))
+        return;
+    TEscrita(temZero ? secoes[2] : secoes[0], TAlgarismos()).Escrever(false, saida);
 }
 
 } // namespace ficha

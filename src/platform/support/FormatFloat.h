@@ -23,5 +23,7 @@ namespace ficha
  * Patterns are taken apart once and remembered: meant for every cell of a list.
  */
 QString FormatFloat(const QString &padrao, double valor);
+/** The same into a string of the caller's, whose memory is used again. */
+void FormatFloat(const QString &padrao, double valor, QString &saida);
 
 } // namespace ficha
