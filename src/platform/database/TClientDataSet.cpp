@@ -133,7 +133,8 @@ struct TClientDataSet::TPrivado {
         std::vector<bool> passam = Perguntar(serve, entre);
         if (achados.size() >= TextosLembrados)
             achados.erase(achados.begin());
-        return achados.emplace_back(digitado, std::move(passam)).passam;
+        achados.push_back({digitado, std::move(passam)});
+        return achados.back().passam;
     }
     void LinhasMudaram()
     {
