@@ -59,16 +59,19 @@ bool SoBrancos(QStringView texto)
 /** A name; the usual ones are made once for all. */
 QString Palavra(QByteArrayView nome)
 {
-    static const QString usuais[] = {
-        QStringLiteral("name"),   QStringLiteral("property"), QStringLiteral("string"),
-        QStringLiteral("number"), QStringLiteral("rect"),     QStringLiteral("x"),
-        QStringLiteral("y"),      QStringLiteral("width"),    QStringLiteral("height"),
-        QStringLiteral("widget"), QStringLiteral("class"),    QStringLiteral("geometry"),
-        QStringLiteral("bool"),   QStringLiteral("enum"),     QStringLiteral("stdset"),
-        QStringLiteral("action"), QStringLiteral("font"),     QStringLiteral("tabstop")};
-    for (const QString &usual : usuais)
-        if (usual.size() == nome.size() && usual == QLatin1String(nome))
-            return usual;
+    struct TUsual {
+        explicit TUsual(const char *letras) : Letras(letras), Texto(QLatin1String(letras)) {}
+        QByteArrayView Letras;
+        QString Texto;
+    };
+    static const TUsual usuais[] = {
+        TUsual("name"),   TUsual("property"), TUsual("string"), TUsual("number"), TUsual("x"),
+        TUsual("y"),      TUsual("width"),    TUsual("height"), TUsual("rect"),   TUsual("widget"),
+        TUsual("class"),  TUsual("bool"),     TUsual("enum"),   TUsual("set"),    TUsual("stdset"),
+        TUsual("action"), TUsual("font"),     TUsual("tabstop")};
+    for (const TUsual &usual : usuais)
+        if (usual.Letras == nome)
+            return usual.Texto;
     return QString::fromLatin1(nome);
 }
 
@@ -285,10 +288,13 @@ bool TLeitorSimples::Entidade(QString &texto)
  * have among them the marks and the codes that are no characters. */
 bool TemEstranhos(const QByteArray &bytes)
 {
-    bool tem = false;
-    for (const char c : bytes)
-        tem |= (uchar(c) < 0x20 && c != '\n' && c != '\t') || uchar(c) == 0xEF;
-    return tem || !QByteArrayView(bytes).isValidUtf8();
+    unsigned tem = 0;
+    for (const char c : bytes) {
+        const uchar u = uchar(c);
+        tem |=
+            (unsigned(u < 0x20) & unsigned(u != '\n') & unsigned(u != '\t')) | unsigned(u == 0xEF);
+    }
+    return tem != 0 || !QByteArrayView(bytes).isValidUtf8();
 }
 
 void LerElemento(QXmlStreamReader &xml, TElementoUi &el)

@@ -30,6 +30,8 @@ void TBoundLabel::setText(const QString &texto)
 
 void TBoundLabel::SetEspaco(int pixels)
 {
+    if (pixels == espaco)
+        return;
     espaco = pixels;
     Posicionar();
 }
@@ -57,13 +59,15 @@ QSize TBoundLabel::sizeHint() const
         !contentsMargins().isNull())
         return QLabel::sizeHint();
     ensurePolished();
-    constexpr int SemLimite = 2000;
-    const auto lado = QStyle::visualAlignment(layoutDirection(), alignment()) &
-                      ~(Qt::AlignVCenter | Qt::AlignHCenter);
-    return fontMetrics()
-        .boundingRect(0, 0, SemLimite, SemLimite, int(lado.toInt()), texto)
-        .size()
-        .expandedTo(minimumSize());
+    const int lado = int((QStyle::visualAlignment(layoutDirection(), alignment()) &
+                          ~(Qt::AlignVCenter | Qt::AlignHCenter))
+                             .toInt());
+    if (texto != medida.Texto || lado != medida.Lado || font() != medida.Fonte) {
+        constexpr int SemLimite = 2000;
+        const QRect area = fontMetrics().boundingRect(0, 0, SemLimite, SemLimite, lado, texto);
+        medida = {texto, font(), lado, area.size()};
+    }
+    return medida.Tamanho.expandedTo(minimumSize());
 }
 
 bool TBoundLabel::eventFilter(QObject *alvo, QEvent *evento)

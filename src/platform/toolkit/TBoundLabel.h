@@ -43,6 +43,14 @@ private:
 
     QPointer<QWidget> controle;
     int espaco = 1;
+    /** What was measured last, for the many times that the label is placed anew. */
+    struct TMedida {
+        QString Texto;
+        QFont Fonte;
+        int Lado = 0;
+        QSize Tamanho;
+    };
+    mutable TMedida medida;
 };
 
 } // namespace ficha

@@ -24,7 +24,7 @@ const TElementoUi *ElementoDoValor(const TElementoUi &propriedade)
 namespace
 {
 
-bool LerInteiro(const QString &texto, int &valor)
+bool LerInteiro(QStringView texto, int &valor)
 {
     bool certo = false;
     valor = texto.trimmed().toInt(&certo);
@@ -36,7 +36,8 @@ bool LerPartes(const TElementoUi &el, std::initializer_list<std::pair<const char
                QString &erro)
 {
     for (const auto &[nome, destino] : partes) {
-        if (!LerInteiro(el.TextoDe(nome), *destino)) {
+        const TElementoUi *parte = el.Filho(nome);
+        if (!parte || !LerInteiro(parte->Texto, *destino)) {
             erro = QStringLiteral("<%1> sem um número em <%2>")
                        .arg(el.Nome, QString::fromLatin1(nome));
             return false;
