@@ -1,8 +1,9 @@
 #include "bench/QuadrosCriacao.h"
 
-#include "bench/Bancada.h"
+#include "bench/Processador.h"
 #include "bench/QuadrosTela.h"
-#include "ui_QuadrosPar.h"
+#include "ui_QuadrosTodos.h"
+#include "ui_QuadrosVisiveis.h"
 
 #include <QtWidgets>
 
@@ -16,12 +17,18 @@ namespace bancada
 namespace
 {
 
-std::unique_ptr<QWidget> NovoPar()
+template <class TUi>
+std::unique_ptr<QWidget> Novo()
 {
     auto par = std::make_unique<QWidget>();
-    Ui::QuadrosPar ui;
+    TUi ui;
     ui.setupUi(par.get());
     return par;
+}
+
+std::unique_ptr<QWidget> NovoPar(bool soVisiveis)
+{
+    return soVisiveis ? Novo<Ui::QuadrosVisiveis>() : Novo<Ui::QuadrosTodos>();
 }
 
 } // namespace
@@ -29,15 +36,15 @@ std::unique_ptr<QWidget> NovoPar()
 TTempos CriarNossa()
 {
     std::unique_ptr<TQuadrosF> tela;
-    const double tudo = Cronometrar([&] { tela.reset(Criar<TQuadrosF>(nullptr)); });
+    const double tudo = CronometrarProcessador([&] { tela.reset(Criar<TQuadrosF>(nullptr)); });
     return {{QStringLiteral("nossa"), tudo - tela->SegundosDoBanco},
             {QStringLiteral("banco"), tela->SegundosDoBanco}};
 }
 
-TTempos CriarPar()
+double CriarPar(bool soVisiveis)
 {
     std::unique_ptr<QWidget> par;
-    return {{QStringLiteral("par"), Cronometrar([&] { par = NovoPar(); })}};
+    return CronometrarProcessador([&] { par = NovoPar(soVisiveis); });
 }
 
 void AquecerQt()
@@ -70,7 +77,8 @@ QMap<QString, int> WidgetsDasTelas()
 {
     const std::unique_ptr<TQuadrosF> tela(Criar<TQuadrosF>(nullptr));
     return {{QStringLiteral("nossa"), ContarWidgets(tela.get())},
-            {QStringLiteral("par"), ContarWidgets(NovoPar().get())}};
+            {QStringLiteral("par"), ContarWidgets(NovoPar(false).get())},
+            {QStringLiteral("par-visiveis"), ContarWidgets(NovoPar(true).get())}};
 }
 
 } // namespace bancada

@@ -12,7 +12,9 @@ namespace
 class TEscritor
 {
 public:
-    QString Escrever(const QWidget *tela);
+    explicit TEscritor(bool soVisiveis_) : soVisiveis(soVisiveis_) {}
+
+    QString Escrever(const QWidget *tela, const QString &classe);
 
 private:
     void Widget(const QWidget *w, int aba = -1);
@@ -29,6 +31,7 @@ private:
     QString texto;
     QXmlStreamWriter xml{&texto};
     QHash<QString, int> nomes;
+    bool soVisiveis;
 };
 
 /** Qt's widgets that make their own insides; nothing below them is written. */
@@ -159,7 +162,8 @@ void TEscritor::Filhos(const QWidget *w)
     }
     for (const QObject *filho : w->children()) {
         const auto *f = qobject_cast<const QWidget *>(filho);
-        if (f && !f->isWindow() && !f->objectName().startsWith(QStringLiteral("qt_")))
+        if (f && !f->isWindow() && !(soVisiveis && f->isHidden()) &&
+            !f->objectName().startsWith(QStringLiteral("qt_")))
             Widget(f);
     }
 }
@@ -198,14 +202,14 @@ void TEscritor::Widget(const QWidget *w, int aba)
     xml.writeEndElement();
 }
 
-QString TEscritor::Escrever(const QWidget *tela)
+QString TEscritor::Escrever(const QWidget *tela, const QString &classe)
 {
     xml.setAutoFormatting(true);
     xml.setAutoFormattingIndent(1);
     xml.writeStartDocument();
     xml.writeStartElement(QStringLiteral("ui"));
     xml.writeAttribute(QStringLiteral("version"), QStringLiteral("4.0"));
-    xml.writeTextElement(QStringLiteral("class"), QStringLiteral("QuadrosPar"));
+    xml.writeTextElement(QStringLiteral("class"), classe);
     Widget(tela);
     xml.writeEndElement();
     xml.writeEndDocument();
@@ -214,9 +218,9 @@ QString TEscritor::Escrever(const QWidget *tela)
 
 } // namespace
 
-QString LayoutDoPar(const QWidget *tela)
+QString LayoutDoPar(const QWidget *tela, const QString &classe, bool soVisiveis)
 {
-    return TEscritor().Escrever(tela);
+    return TEscritor(soVisiveis).Escrever(tela, classe);
 }
 
 } // namespace bancada

@@ -19,9 +19,11 @@ public:
     void Mostrar(QWidget *janela);
     /** Gives an input the focus and lets its window settle. */
     void Focar(QWidget *entrada);
+    /** One key, pressed and released: the seconds until a running event loop has nothing left to
+     * do. A key without a repaint of the input is an error. */
+    double Teclar(QWidget *entrada, QChar tecla);
     /** Types so many keys of a text, emptying the input unmeasured whenever the text is through;
-     * each key's time in seconds, from its press until a running event loop has nothing left to do.
-     * A key without a repaint of the input is an error. */
+     * each key's time in seconds. */
     QVector<double> Digitar(QWidget *entrada, const QString &teclas, int quantas);
     static void Esvaziar(QWidget *entrada);
     /** Voluntary context switches while a window is left alone, the caret blinking or (0) not; and
@@ -29,9 +31,6 @@ public:
     TLaco::TDespertares Largar(QWidget *entrada, int milissegundos, int piscada);
 
     TLaco Laco;
-
-private:
-    double Teclar(QWidget *entrada, QChar tecla);
 };
 
 /** Forty bare line edits in a plain window of some size: "letters" and "digits", the median key in

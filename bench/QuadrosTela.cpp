@@ -1,6 +1,6 @@
 #include "bench/QuadrosTela.h"
 
-#include "bench/Bancada.h"
+#include "bench/Processador.h"
 #include "input/UComboBoxCodBasFr.h"
 #include "platform/core/Erros.h"
 #include "platform/database/ConexD.h"
@@ -98,12 +98,12 @@ void TQuadrosF::FormCreate(QObject *sender)
     // Opened here so that it can be told from the making of the screen; the base finds it open.
     SQLQuery1->SetSQLConnection(ConexD().SQLConnection);
     SetSQLText(QStringLiteral("select * from quadros order by quadros_cod"));
-    SegundosDoBanco = Cronometrar([this] { SQLQuery1->Open(); });
+    SegundosDoBanco = CronometrarProcessador([this] { SQLQuery1->Open(); });
     TTabLinearBasF::FormCreate(sender);
     auto *abrir = new TAction(ActionList1);
     for (auto *combo : CamposTabSheet->findChildren<TComboBoxCodBasFr *>()) {
         combo->SelecionarAction = abrir;
-        SegundosDoBanco += Cronometrar([combo] {
+        SegundosDoBanco += CronometrarProcessador([combo] {
             combo->SetSQLText(
                 QStringLiteral("select regioes_cod, nome from regioes order by nome"));
         });

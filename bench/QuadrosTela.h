@@ -26,7 +26,8 @@ public:
     ficha::TBasFr *Quadro(const char *nome) const { return quadros.value(nome); }
     ficha::TDataBasFr *NascimentoFr = nullptr;
     ficha::TContatoBasFr *ContatoFr = nullptr;
-    /** What opening the list and filling the code combos took at the creation, in seconds. */
+    /** What opening the list and filling the code combos took at the creation, in seconds
+     * of the processor. */
     double SegundosDoBanco = 0;
 
 protected:

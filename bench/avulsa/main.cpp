@@ -33,13 +33,18 @@ void AbrirBanco(TSQLConnection &conexao, const QString &arquivo)
     conexao.ExecutarScript(bancada::RoteiroDosQuadros());
 }
 
-/** Writes the peer's layout anew from the screen. */
-void Regravar(const QString &arquivo)
+/** Writes the peers' layouts anew from the screen. */
+void Regravar(const QString &pasta)
 {
     const std::unique_ptr<bancada::TQuadrosF> tela(Criar<bancada::TQuadrosF>(nullptr));
-    QFile f(arquivo);
-    if (!f.open(QIODevice::WriteOnly) || f.write(bancada::LayoutDoPar(tela.get()).toUtf8()) < 0)
-        throw EErro(f.errorString());
+    for (const bool soVisiveis : {false, true}) {
+        const QString classe =
+            soVisiveis ? QStringLiteral("QuadrosVisiveis") : QStringLiteral("QuadrosTodos");
+        QFile f(pasta + u'/' + classe + QStringLiteral(".ui"));
+        const QByteArray texto = bancada::LayoutDoPar(tela.get(), classe, soVisiveis).toUtf8();
+        if (!f.open(QIODevice::WriteOnly) || f.write(texto) != texto.size())
+            throw EErro(f.errorString());
+    }
 }
 
 /** With the library: "nossa" and "regravar", on a database file. */
@@ -59,9 +64,9 @@ bancada::TTempos ComABiblioteca(const QString &o_que, const QStringList &resto)
 
 bancada::TTempos Executar(const QString &o_que, const QStringList &resto)
 {
-    if (o_que == QStringLiteral("par")) {
+    if (o_que.startsWith(QStringLiteral("par"))) {
         bancada::AquecerQt();
-        return bancada::CriarPar();
+        return {{o_que, bancada::CriarPar(o_que == QStringLiteral("par-visiveis"))}};
     }
     const QSize tamanho(resto.value(0).toInt(), resto.value(1).toInt());
     const int quanto = resto.value(2).toInt();
@@ -77,10 +82,10 @@ bancada::TTempos Executar(const QString &o_que, const QStringList &resto)
 /**
  * What is measured in a process of its own, printed as names and numbers:
  *   nossa DATABASE                the first creation of the screen of forty frames
- *   par                           the first creation of the same from uic's code
+ *   par, par-visiveis             the first creation of the same from uic's code
  *   teclas WIDTH HEIGHT KEYS      a key in a bare QLineEdit, without the library's idle updates
  *   caret WIDTH HEIGHT MS FLASH   the wake-ups of such a window
- * and what the second needs: regravar NEWDATABASE bench/QuadrosPar.ui writes its layout anew.
+ * and what the second needs: regravar NEWDATABASE bench/layouts writes its layouts anew.
  */
 int main(int argc, char **argv)
 {
