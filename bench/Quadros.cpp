@@ -68,7 +68,7 @@ TCena::TCena()
     // A message box would wait for ever.
     Servicos().MensagemAviso = [](const QString &texto, int) { qFatal("%s", qPrintable(texto)); };
     Servicos().ReportarErro = [](std::exception_ptr erro) {
-        qFatal("%s", qPrintable(TextoDoErro(erro)));
+        qFatal("%s", qPrintable(TextoDoErro(std::move(erro))));
     };
     tela.reset(Criar<bancada::TQuadrosF>(nullptr));
     digitador.Mostrar(tela.get());

@@ -2,8 +2,6 @@
 
 #include <QObject>
 
-class QWidget;
-
 namespace bancada
 {
 
@@ -28,7 +26,7 @@ public:
     TDespertares Esperar(int milissegundos);
 
     /** Counts the paintings of this widget. */
-    void Observar(const QWidget *widget)
+    void Observar(const QObject *widget)
     {
         observado = widget;
         pinturas = 0;
@@ -41,7 +39,7 @@ protected:
 private:
     void AoEsperar();
 
-    const QWidget *observado = nullptr;
+    const QObject *observado = nullptr;
     int pinturas = 0;
     quint64 eventos = 0;
     quint64 noUltimoBloqueio = 0;

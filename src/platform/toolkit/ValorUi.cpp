@@ -199,9 +199,9 @@ QVariant LerTexto(const TElementoUi &el, const QMetaProperty &propriedade, QStri
 QVariant LerNumero(const TElementoUi &el, QString &erro)
 {
     bool certo = false;
-    const QVariant valor = el.Nome == QLatin1String("double")
-                               ? QVariant(el.Texto.trimmed().toDouble(&certo))
-                               : QVariant(el.Texto.trimmed().toInt(&certo));
+    QVariant valor = el.Nome == QLatin1String("double")
+                         ? QVariant(el.Texto.trimmed().toDouble(&certo))
+                         : QVariant(el.Texto.trimmed().toInt(&certo));
     if (!certo)
         erro = QStringLiteral("<%1> com '%2'").arg(el.Nome, el.Texto);
     return valor;
