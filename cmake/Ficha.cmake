@@ -18,18 +18,42 @@ if(FICHA_SANITIZERS)
     target_link_options(ficha_opcoes INTERFACE -fsanitize=address,undefined -fno-sanitize=vptr)
 endif()
 
+# Layouts are compiled while the program is built. Without the sanitizers' flags: it only runs here.
+add_executable(ficha_compilar_layout
+    "${CMAKE_SOURCE_DIR}/cmake/layouts/CompilarLayout.cpp"
+    "${CMAKE_SOURCE_DIR}/src/platform/toolkit/ArquivoUi.cpp")
+target_include_directories(ficha_compilar_layout PRIVATE "${CMAKE_SOURCE_DIR}/src")
+target_link_libraries(ficha_compilar_layout PRIVATE Qt6::Core)
+set_target_properties(ficha_compilar_layout PROPERTIES AUTOMOC OFF)
+
+# ficha_layouts_compilados(list file...): compiles layouts and puts the results into a list, each with
+# the alias layouts/<name>.ui for qt_add_resources.
+function(ficha_layouts_compilados saida)
+    set(pasta "${CMAKE_CURRENT_BINARY_DIR}/layouts_compilados")
+    file(MAKE_DIRECTORY "${pasta}")
+    set(compilados "")
+    foreach(arquivo IN LISTS ARGN)
+        get_filename_component(nome "${arquivo}" NAME)
+        add_custom_command(OUTPUT "${pasta}/${nome}"
+                           COMMAND ficha_compilar_layout "${arquivo}" "${pasta}/${nome}"
+                           DEPENDS ficha_compilar_layout "${arquivo}"
+                           COMMENT "Compiling layout ${nome}" VERBATIM)
+        set_source_files_properties("${pasta}/${nome}" PROPERTIES
+                                    QT_RESOURCE_ALIAS "layouts/${nome}")
+        list(APPEND compilados "${pasta}/${nome}")
+    endforeach()
+    set(${saida} ${compilados} PARENT_SCOPE)
+endfunction()
+
 # Layouts and pictures, one resource library for all floors.
-file(GLOB FICHA_LAYOUTS CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/layouts/*.ui"
-     "${CMAKE_SOURCE_DIR}/src/layouts/pictures/*.svg" "${CMAKE_SOURCE_DIR}/src/layouts/pictures/*.png")
+file(GLOB FICHA_LAYOUTS CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/layouts/*.ui")
+file(GLOB FICHA_FIGURAS CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/layouts/pictures/*.svg"
+     "${CMAKE_SOURCE_DIR}/src/layouts/pictures/*.png")
 add_library(ficha_layouts OBJECT)
-if(FICHA_LAYOUTS)
-    # Read when a screen opens, each once: unpacking them takes longer than their 200 kB are worth.
-    qt_add_resources(ficha_layouts ficha_layouts PREFIX "/ficha"
-                     BASE "${CMAKE_SOURCE_DIR}/src" OPTIONS --no-compress FILES ${FICHA_LAYOUTS})
-else()
-    file(WRITE "${CMAKE_BINARY_DIR}/ficha_sem_layouts.cpp" "// No layouts.\n")
-    target_sources(ficha_layouts PRIVATE "${CMAKE_BINARY_DIR}/ficha_sem_layouts.cpp")
-endif()
+ficha_layouts_compilados(FICHA_COMPILADOS ${FICHA_LAYOUTS})
+# Read when a screen opens, each once: unpacking them takes longer than their 200 kB are worth.
+qt_add_resources(ficha_layouts ficha_layouts PREFIX "/ficha" BASE "${CMAKE_SOURCE_DIR}/src"
+                 OPTIONS --no-compress FILES ${FICHA_COMPILADOS} ${FICHA_FIGURAS})
 target_link_libraries(ficha_layouts PRIVATE Qt6::Core)
 
 set(FICHA_ANDARES "" CACHE INTERNAL "")

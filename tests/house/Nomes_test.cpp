@@ -45,7 +45,7 @@ const QSet<QString> &NomesDoLayout(const QString &classe)
     if (lidos.contains(classe))
         return lidos[classe];
     QSet<QString> &nomes = lidos[classe];
-    QFile arquivo(QStringLiteral(":/ficha/layouts/%1.ui").arg(classe));
+    QFile arquivo(QStringLiteral(FICHA_FONTES "/src/layouts/%1.ui").arg(classe));
     if (!arquivo.open(QIODevice::ReadOnly))
         return nomes;
     for (QXmlStreamReader xml(&arquivo); !xml.atEnd();) {

@@ -23,82 +23,88 @@ QString Escrito(const TElementoUi &el)
     return texto + u')';
 }
 
-QString PeloGeral(const QByteArray &bytes)
+QByteArray Bytes(const QString &nome)
 {
-    QString erro;
-    const TElementoUi raiz = LerUiGeral(bytes, erro);
-    return erro.isEmpty() ? Escrito(raiz) : erro;
+    QFile arquivo(nome);
+    EXPECT_TRUE(arquivo.open(QIODevice::ReadOnly)) << qPrintable(nome);
+    return arquivo.readAll();
 }
 
-class TTextoDeArquivo : public testing::TestWithParam<const char *>
+TElementoUi Lido(const QByteArray &texto)
 {
-};
+    QString erro;
+    const TElementoUi raiz = LerUi(texto, erro);
+    EXPECT_EQ(erro, QString());
+    return raiz;
+}
 
-using ArquivoUiSimples = TTextoDeArquivo;
-using ArquivoUiRecusado = TTextoDeArquivo;
+const QByteArray Exemplo = "<ui version=\"4.0\">\n <widget class=\"T\" name=\"Código\">\n"
+                           "  <string>um &lt; dois</string>\n  <x/>\n </widget>\n</ui>\n";
 
 } // namespace
 
-TEST(ArquivoUi, EveryLayoutOfTheLibraryIsReadTheSimpleWayAndAlike)
+TEST(ArquivoUi, LayoutsOfTheLibraryLieCompiledAndSayWhatTheirTextsSay)
 {
     const QDir pasta(QStringLiteral(":/ficha/layouts"));
+    const QDir textos(QStringLiteral(FICHA_FONTES "/src/layouts"));
     const QStringList nomes = pasta.entryList({QStringLiteral("*.ui")});
+    EXPECT_EQ(nomes, textos.entryList({QStringLiteral("*.ui")}));
     ASSERT_GT(nomes.size(), 50);
     for (const QString &nome : nomes) {
-        QFile arquivo(pasta.filePath(nome));
-        ASSERT_TRUE(arquivo.open(QIODevice::ReadOnly));
-        const QByteArray bytes = arquivo.readAll();
-        TElementoUi raiz;
-        ASSERT_TRUE(LerUiSimples(bytes, raiz)) << nome.toStdString();
-        EXPECT_EQ(Escrito(raiz), PeloGeral(bytes)) << nome.toStdString();
+        TElementoUi compilado;
+        ASSERT_TRUE(LerUiCompilado(Bytes(pasta.filePath(nome)), compilado)) << qPrintable(nome);
+        EXPECT_EQ(Escrito(compilado), Escrito(Lido(Bytes(textos.filePath(nome)))));
     }
 }
 
-TEST_P(ArquivoUiSimples, IsReadAsTheGeneralReaderReadsIt)
+TEST(ArquivoUi, BlanksAroundChildrenAreDroppedAndTextsKept)
 {
-    const QByteArray bytes = GetParam();
-    TElementoUi raiz;
-    ASSERT_TRUE(LerUiSimples(bytes, raiz));
-    EXPECT_EQ(Escrito(raiz), PeloGeral(bytes));
+    EXPECT_EQ(Escrito(Lido(Exemplo)),
+              QStringLiteral("ui@1 version='4.0'[](widget@2 class='T' name='Código'[]("
+                             "string@3[um < dois]()x@4[]()))"));
+    EXPECT_EQ(Escrito(Lido("<ui><string>  two  </string></ui>")),
+              QStringLiteral("ui@1[](string@1[  two  ]())"));
+    EXPECT_EQ(Escrito(Lido("<ui>mixed <a/> tail</ui>")),
+              QStringLiteral("ui@1[mixed  tail](a@1[]())"));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    , ArquivoUiSimples,
-    testing::Values("<ui/>", "<ui></ui>", "<ui version=\"4.0\"/>", "<ui a=\"1\" b=\"2\" c=\"\"/>",
-                    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ui>\n <a/>\n</ui>\n",
-                    "<!-- one\ntwo -->\n<ui><a/></ui>", "<ui><string>  two blanks  </string></ui>",
-                    "<ui><string>\n</string></ui>", "<ui><string></string></ui>",
-                    "<ui><string>caf\xC3\xA9 \xE2\x82\xAC \xF0\x9F\x98\x80</string></ui>",
-                    "<ui><string>&lt;b&gt; &amp; &quot;x&quot; &apos;</string></ui>",
-                    "<ui t=\"a &amp; &lt;b&gt; 'c'\"/>", "<ui>mixed <a/> text <b/> tail</ui>",
-                    "<ui>\n  <a/>\n  text\n  <b/>\n</ui>", "<ui><a>x<!-- c -->y</a></ui>",
-                    "<ui><a> <!-- c --> </a></ui>", "<ui>\n <!-- c -->\n <a/>\n <!-- d -->\n</ui>",
-                    "<ui\n a=\"1\"\n b=\"2\"\n><x/></ui>", "<ui >\n<a\n/>\n</ui >",
-                    "<ui>a]]b ]] ></ui>", "<ui>a > b</ui>", "<a-b.c_1><D/></a-b.c_1>",
-                    "<ui><a/></ui> and whatever follows"));
-
-TEST_P(ArquivoUiRecusado, IsLeftToTheGeneralReader)
+TEST(ArquivoUi, ABrokenTextIsToldWithItsLine)
 {
-    TElementoUi raiz;
-    EXPECT_FALSE(LerUiSimples(GetParam(), raiz));
+    QString erro;
+    EXPECT_EQ(LerUi("<ui>\n<a>\n</ui>", erro).Nome, QString());
+    EXPECT_TRUE(erro.startsWith(QStringLiteral("3: XML mal formado: "))) << qPrintable(erro);
 }
 
-INSTANTIATE_TEST_SUITE_P(Sound, ArquivoUiRecusado,
-                         testing::Values("<ui a='single'/>", "<ui a = \"1\"/>",
-                                         "<ui><![CDATA[x]]></ui>", "<ui>&#65;</ui>",
-                                         "<ui><?pi x?></ui>", "<!DOCTYPE ui><ui/>",
-                                         "<?xml version='1.0'?><ui/>", "<ui a=\"x\ny\"/>",
-                                         "<ui>\r\n</ui>", "\xEF\xBB\xBF<ui/>", "<ui xmlns=\"u\"/>",
-                                         "<n:ui xmlns:n=\"u\"/>", "<\xC3\xA9/>"));
+TEST(ArquivoUi, ATextIsNoCompiledLayout)
+{
+    TElementoUi raiz;
+    EXPECT_FALSE(LerUiCompilado(Exemplo, raiz));
+    EXPECT_FALSE(LerUiCompilado({}, raiz));
+}
 
-INSTANTIATE_TEST_SUITE_P(Broken, ArquivoUiRecusado,
-                         testing::Values("", " ", "text", "<", "<ui", "<ui>", "<ui a/>", "<ui a=>",
-                                         "<ui a=\"1>", "<ui a=\"1\"b=\"2\"/>",
-                                         "<ui a=\"1\" a=\"2\"/>", "<ui a=\"<\"/>", "<ui></uj>",
-                                         "<ui><a></ui></a>", "<ui></ui", "<ui>&nothing;</ui>",
-                                         "<ui>& </ui>", "<ui>]]></ui>", "<ui><!-- a -- b --></ui>",
-                                         "<ui><!-- a </ui>", "<ui / >", "<1ui/>", "<ui>\x01</ui>",
-                                         "<ui>\xC3</ui>", "<ui>\xEF\xBF\xBF</ui>",
-                                         "<ui><string>x</string>"));
+TEST(ArquivoUi, ACompiledLayoutThatIsCutOffOrLongerIsRefused)
+{
+    const QByteArray bytes = CompilarUi(Lido(Exemplo));
+    TElementoUi raiz;
+    ASSERT_TRUE(LerUiCompilado(bytes, raiz));
+    for (qsizetype n = 0; n < bytes.size(); ++n)
+        EXPECT_FALSE(LerUiCompilado(bytes.first(n), raiz)) << n;
+    EXPECT_FALSE(LerUiCompilado(bytes + '\0', raiz));
+}
+
+TEST(ArquivoUi, ADamagedCompiledLayoutNeverReadsBeyondItself)
+{
+    const QByteArray bytes = CompilarUi(Lido(Exemplo));
+    int recusados = 0;
+    for (qsizetype i = 0; i < bytes.size(); ++i) {
+        for (const char valor : {'\x00', '\x7F', '\xFF'}) {
+            QByteArray outros = bytes;
+            outros[i] = valor;
+            TElementoUi raiz;
+            recusados += LerUiCompilado(outros, raiz) ? 0 : 1;
+        }
+    }
+    EXPECT_GT(recusados, 100);
+}
 
 } // namespace ficha

@@ -1,6 +1,8 @@
 #include "platform/toolkit/ArquivoUi.h"
 
+#include <QDataStream>
 #include <QFile>
+#include <QHash>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -39,263 +41,122 @@ QString TElementoUi::TextoDe(const char *filho) const
 namespace
 {
 
-bool EhBranco(char c)
-{
-    return c == ' ' || c == '\n' || c == '\t';
-}
-
-bool EhDeNome(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
-           c == '-' || c == '.';
-}
-
-bool SoBrancos(QStringView texto)
-{
-    return std::ranges::all_of(
-        texto, [](QChar c) { return c == u' ' || c == u'\n' || c == u'\t' || c == u'\r'; });
-}
-
-/** A name; the usual ones are made once for all. */
-QString Palavra(QByteArrayView nome)
-{
-    struct TUsual {
-        explicit TUsual(const char *letras) : Letras(letras), Texto(QLatin1String(letras)) {}
-        QByteArrayView Letras;
-        QString Texto;
-    };
-    static const TUsual usuais[] = {
-        TUsual("name"),   TUsual("property"), TUsual("string"), TUsual("number"), TUsual("x"),
-        TUsual("y"),      TUsual("width"),    TUsual("height"), TUsual("rect"),   TUsual("widget"),
-        TUsual("class"),  TUsual("bool"),     TUsual("enum"),   TUsual("set"),    TUsual("stdset"),
-        TUsual("action"), TUsual("font"),     TUsual("tabstop")};
-    for (const TUsual &usual : usuais)
-        if (usual.Letras == nome)
-            return usual.Texto;
-    return QString::fromLatin1(nome);
-}
+/** What a compiled layout begins with; no text begins so. */
+constexpr quint32 Marca = 0x0146'4C59;
+constexpr quint16 Versao = 1;
 
 /** A child comes: what stood before it is text only when it is more than the indentation. */
 void LargarBrancos(TElementoUi &el)
 {
-    if (SoBrancos(el.Texto))
+    const auto branco = [](QChar c) { return c == u' ' || c == u'\n' || c == u'\t' || c == u'\r'; };
+    if (std::ranges::all_of(el.Texto, branco))
         el.Texto.clear();
 }
 
-/**
- * Reads what Designer writes, several times as fast as the general reader: the layouts of a screen
- * and of its frames are read when it opens for the first time. Gives up at anything unusual.
- */
-class TLeitorSimples
+/** Both directions of the compiled form. */
+void Combinar(QDataStream &fluxo)
+{
+    fluxo.setVersion(QDataStream::Qt_6_0);
+    fluxo.setByteOrder(QDataStream::LittleEndian);
+}
+
+/** Writes elements whose words are numbers of a table. */
+class TEscritor
 {
 public:
-    explicit TLeitorSimples(const QByteArray &bytes) : p(bytes.constData()), fim(p + bytes.size())
+    QByteArray Escrever(const TElementoUi &raiz)
     {
+        QByteArray arvore;
+        QDataStream paraArvore(&arvore, QIODevice::WriteOnly);
+        Combinar(paraArvore);
+        Elemento(paraArvore, raiz);
+        QByteArray bytes;
+        QDataStream fluxo(&bytes, QIODevice::WriteOnly);
+        Combinar(fluxo);
+        fluxo << Marca << Versao << palavras;
+        fluxo.writeRawData(arvore.constData(), int(arvore.size()));
+        return bytes;
     }
-
-    bool Arquivo(TElementoUi &raiz) { return Prologo() && Abertura(raiz) && Conteudo(raiz); }
 
 private:
-    bool Comeca(const char *texto) const
+    void Elemento(QDataStream &fluxo, const TElementoUi &el)
     {
-        const std::size_t n = qstrlen(texto);
-        return std::size_t(fim - p) >= n && memcmp(p, texto, n) == 0;
+        fluxo << Numero(el.Nome) << Numero(el.Texto) << quint32(el.Linha)
+              << quint32(el.Atributos.size()) << quint32(el.Filhos.size());
+        for (const auto &[nome, valor] : el.Atributos)
+            fluxo << Numero(nome) << Numero(valor);
+        for (const TElementoUi &filho : el.Filhos)
+            Elemento(fluxo, filho);
     }
-    bool Pegar(char c)
+    quint32 Numero(const QString &palavra)
     {
-        if (p == fim || *p != c)
-            return false;
-        ++p;
-        return true;
+        const auto achada = numeros.constFind(palavra);
+        if (achada != numeros.constEnd())
+            return *achada;
+        palavras.append(palavra);
+        return *numeros.insert(palavra, quint32(palavras.size() - 1));
     }
-    void Brancos()
-    {
-        for (; p != fim && EhBranco(*p); ++p)
-            linha += *p == '\n';
-    }
-    QByteArrayView Nome();
-    bool Prologo();
-    bool Comentario();
-    bool Abertura(TElementoUi &el);
-    bool Atributo(TElementoUi &el);
-    bool Conteudo(TElementoUi &el);
-    bool SaltarBrancos(const TElementoUi &el);
-    bool Fechamento(const TElementoUi &el);
-    bool Caracteres(char ate, QString &texto);
-    bool Entidade(QString &texto);
 
-    const char *p;
-    const char *const fim;
-    qint64 linha = 1;
-    bool vazia = false; /**< the tag that was opened last has closed itself */
+    QStringList palavras;
+    QHash<QString, quint32> numeros;
 };
 
-/** A name of plain letters; empty for any other. */
-QByteArrayView TLeitorSimples::Nome()
+/** Reads what TEscritor wrote; every number is checked against what can be there. */
+class TLeitor
 {
-    const char *inicio = p;
-    const bool letra =
-        p != fim && EhDeNome(*p) && *p != '-' && *p != '.' && !(*p >= '0' && *p <= '9');
-    while (letra && p != fim && EhDeNome(*p))
-        ++p;
-    return {inicio, p - inicio};
-}
+public:
+    explicit TLeitor(const QByteArray &bytes) : fluxo(bytes) { Combinar(fluxo); }
 
-/** What Designer's files begin with, or nothing. */
-bool TLeitorSimples::Prologo()
-{
-    static constexpr char Declaracao[] = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>";
-    if (Comeca(Declaracao))
-        p += sizeof Declaracao - 1;
-    Brancos();
-    while (Comeca("<!--")) {
-        if (!Comentario())
+    /** False when the bytes are no compiled layout, or a damaged one. */
+    bool Ler(TElementoUi &raiz)
+    {
+        quint32 marca = 0;
+        quint16 versao = 0;
+        fluxo >> marca >> versao;
+        if (marca != Marca || versao != Versao)
             return false;
-        Brancos();
+        fluxo >> palavras;
+        return Elemento(raiz) && fluxo.atEnd();
     }
-    return Pegar('<');
-}
 
-bool TLeitorSimples::Comentario()
-{
-    p += 4;
-    const auto tamanho = QByteArrayView(p, fim - p).indexOf("--");
-    if (tamanho < 0)
-        return false;
-    linha += std::count(p, p + tamanho, '\n');
-    p += tamanho + 2;
-    return Pegar('>');
-}
+private:
+    /** An element takes as many bytes at least: more of them than that cannot follow. */
+    static constexpr qint64 BytesDeElemento = 5 * sizeof(quint32);
+    static constexpr qint64 BytesDeAtributo = 2 * sizeof(quint32);
 
-/** The opening tag, behind its "<". */
-bool TLeitorSimples::Abertura(TElementoUi &el)
-{
-    el.Nome = Palavra(Nome());
-    if (el.Nome.isEmpty())
-        return false;
-    for (;;) {
-        const char *antes = p;
-        Brancos();
-        vazia = Pegar('/');
-        if (Pegar('>'))
-            break;
-        if (vazia || p == antes || !Atributo(el))
+    bool Elemento(TElementoUi &el)
+    {
+        quint32 linha = 0;
+        quint32 atributos = 0;
+        quint32 filhos = 0;
+        if (!Palavra(el.Nome) || !Palavra(el.Texto))
             return false;
+        fluxo >> linha >> atributos >> filhos;
+        const qint64 restam = fluxo.device()->bytesAvailable();
+        if (fluxo.status() != QDataStream::Ok ||
+            atributos * BytesDeAtributo + filhos * BytesDeElemento > restam)
+            return false;
+        el.Linha = linha;
+        el.Atributos.resize(atributos);
+        for (auto &[nome, valor] : el.Atributos)
+            if (!Palavra(nome) || !Palavra(valor))
+                return false;
+        el.Filhos.resize(filhos);
+        return std::ranges::all_of(el.Filhos, [this](TElementoUi &f) { return Elemento(f); });
     }
-    el.Linha = linha;
-    return true;
-}
-
-bool TLeitorSimples::Atributo(TElementoUi &el)
-{
-    QString nome = Palavra(Nome());
-    QString valor;
-    const auto repetido = [&nome](const auto &a) { return a.first == nome; };
-    if (nome.isEmpty() || nome == QLatin1String("xmlns") || !Pegar('=') || !Pegar('"') ||
-        !Caracteres('"', valor) || std::ranges::any_of(el.Atributos, repetido))
-        return false;
-    ++p;
-    el.Atributos.emplace_back(std::move(nome), std::move(valor));
-    return true;
-}
-
-/** What stands between the tags, and the closing one. */
-bool TLeitorSimples::Conteudo(TElementoUi &el)
-{
-    if (vazia)
+    bool Palavra(QString &palavra)
+    {
+        quint32 numero = 0;
+        fluxo >> numero;
+        if (fluxo.status() != QDataStream::Ok || numero >= quint32(palavras.size()))
+            return false;
+        palavra = palavras[numero];
         return true;
-    for (;;) {
-        if (!SaltarBrancos(el) && !Caracteres('<', el.Texto))
-            return false;
-        if (Comeca("</"))
-            return Fechamento(el);
-        if (Comeca("<!--")) {
-            if (!Comentario())
-                return false;
-            continue;
-        }
-        ++p;
-        LargarBrancos(el);
-        TElementoUi &filho = el.Filhos.emplace_back();
-        if (!Abertura(filho) || !Conteudo(filho))
-            return false;
     }
-}
 
-/** Blanks around child elements are no text; false, and nothing read, when it is anything else. */
-bool TLeitorSimples::SaltarBrancos(const TElementoUi &el)
-{
-    const char *antes = p;
-    const qint64 linhaAntes = linha;
-    Brancos();
-    const bool leva = !el.Filhos.empty() || (!Comeca("</") && !Comeca("<!--"));
-    if (p != fim && *p == '<' && leva)
-        return true;
-    p = antes;
-    linha = linhaAntes;
-    return false;
-}
-
-bool TLeitorSimples::Fechamento(const TElementoUi &el)
-{
-    p += 2;
-    if (el.Nome != QLatin1String(Nome()))
-        return false;
-    Brancos();
-    return Pegar('>');
-}
-
-/** The characters up to a mark, which is left standing. */
-bool TLeitorSimples::Caracteres(char ate, QString &texto)
-{
-    for (;;) {
-        const char *inicio = p;
-        while (p != fim && *p != ate && *p != '&' && *p != '<') {
-            const char c = *p++;
-            linha += c == '\n';
-            // Blanks are written otherwise in a value, and these three never stand in a text.
-            if (ate == '"' && (c == '\n' || c == '\t'))
-                return false;
-            if (c == ']' && Comeca("]>"))
-                return false;
-        }
-        if (p != inicio)
-            texto += QString::fromUtf8(inicio, p - inicio);
-        if (p == fim)
-            return false;
-        if (*p == ate)
-            return true;
-        if (*p == '<' || !Entidade(texto))
-            return false;
-    }
-}
-
-bool TLeitorSimples::Entidade(QString &texto)
-{
-    static constexpr std::pair<const char *, char16_t> entidades[] = {
-        {"&lt;", u'<'}, {"&gt;", u'>'}, {"&amp;", u'&'}, {"&quot;", u'"'}, {"&apos;", u'\''}};
-    for (const auto &[nome, caractere] : entidades) {
-        if (Comeca(nome)) {
-            p += qstrlen(nome);
-            texto += QChar(caractere);
-            return true;
-        }
-    }
-    return false;
-}
-
-/** Bytes that mean something else to the general reader than to the simple one. U+F000 and beyond
- * have among them the marks and the codes that are no characters. */
-bool TemEstranhos(const QByteArray &bytes)
-{
-    unsigned tem = 0;
-    for (const char c : bytes) {
-        const uchar u = uchar(c);
-        tem |=
-            (unsigned(u < 0x20) & unsigned(u != '\n') & unsigned(u != '\t')) | unsigned(u == 0xEF);
-    }
-    return tem != 0 || !QByteArrayView(bytes).isValidUtf8();
-}
+    QDataStream fluxo;
+    QStringList palavras;
+};
 
 void LerElemento(QXmlStreamReader &xml, TElementoUi &el)
 {
@@ -321,12 +182,7 @@ void LerElemento(QXmlStreamReader &xml, TElementoUi &el)
 
 } // namespace
 
-bool LerUiSimples(const QByteArray &bytes, TElementoUi &raiz)
-{
-    return !TemEstranhos(bytes) && TLeitorSimples(bytes).Arquivo(raiz);
-}
-
-TElementoUi LerUiGeral(const QByteArray &bytes, QString &erro)
+TElementoUi LerUi(const QByteArray &bytes, QString &erro)
 {
     TElementoUi raiz;
     QXmlStreamReader xml(bytes);
@@ -334,8 +190,18 @@ TElementoUi LerUiGeral(const QByteArray &bytes, QString &erro)
         LerElemento(xml, raiz);
     if (!xml.hasError())
         return raiz;
-    erro = QStringLiteral("%1: %2").arg(xml.lineNumber()).arg(xml.errorString());
+    erro = QStringLiteral("%1: XML mal formado: %2").arg(xml.lineNumber()).arg(xml.errorString());
     return {};
+}
+
+QByteArray CompilarUi(const TElementoUi &raiz)
+{
+    return TEscritor().Escrever(raiz);
+}
+
+bool LerUiCompilado(const QByteArray &bytes, TElementoUi &raiz)
+{
+    return TLeitor(bytes).Ler(raiz);
 }
 
 TElementoUi LerArquivoUi(const QString &arquivo, QStringList &falhas)
@@ -348,14 +214,12 @@ TElementoUi LerArquivoUi(const QString &arquivo, QStringList &falhas)
     }
     const QByteArray bytes = dados.readAll();
     TElementoUi raiz;
-    if (LerUiSimples(bytes, raiz))
+    if (LerUiCompilado(bytes, raiz))
         return raiz;
     QString erro;
-    raiz = LerUiGeral(bytes, erro);
+    raiz = LerUi(bytes, erro);
     if (!erro.isEmpty())
-        falhas << QStringLiteral("%1:%2: XML mal formado: %3")
-                      .arg(arquivo, erro.section(QStringLiteral(": "), 0, 0),
-                           erro.section(QStringLiteral(": "), 1));
+        falhas << arquivo + u':' + erro;
     return raiz;
 }
 

@@ -28,17 +28,20 @@ struct TElementoUi {
     QString TextoDe(const char *filho) const;
 };
 
-/** Reads a layout file. A file that cannot be read or is not well formed leaves an empty element
- * and a fault "file:line: text". */
+/** Reads a layout file, as Designer writes it or compiled. A file that cannot be read or is not
+ * well formed leaves an empty element and a fault "file:line: text". */
 TElementoUi LerArquivoUi(const QString &arquivo, QStringList &falhas);
 
+/** Reads the text of a layout; erro is empty for a well-formed one and else "line: text". */
+TElementoUi LerUi(const QByteArray &bytes, QString &erro);
+
 /**
- * The same for the bytes of a file that is written as Designer writes them: UTF-8, plain names, no
- * document type, sections or instructions. False for every other file, sound or not, which is left
- * to the general reader; raiz is undefined then.
+ * The form in which layouts lie in the library and its programs: what LerUi gave, so that a screen
+ * which opens for the first time need not parse the text of its thirty files. Made while the
+ * program is built, where a text that is not well formed stops the build.
  */
-bool LerUiSimples(const QByteArray &bytes, TElementoUi &raiz);
-/** The general reader; erro is empty for a well-formed file and else "line: text". */
-TElementoUi LerUiGeral(const QByteArray &bytes, QString &erro);
+QByteArray CompilarUi(const TElementoUi &raiz);
+/** False when the bytes are not such a form, or a damaged one; raiz is undefined then. */
+bool LerUiCompilado(const QByteArray &bytes, TElementoUi &raiz);
 
 } // namespace ficha
