@@ -1,15 +1,13 @@
-// What a list costs against the engine's own fetch loop. The figures are printed in every build and
-// bounded in the release one; bounds are generous, for machines that do other things meanwhile.
+// What rows, walks and small statements cost. The figures are printed in every build; bounds are
+// generous, for machines that do other things meanwhile.
 
-#include "platform/database/MotorFirebird.h"
 #include "platform/database/TSQLQuery.h"
 #include "platform/database/TTravas.h"
 #include "support/BancoTemp.h"
 
 #include <QElapsedTimer>
 
-#include <algorithm>
-#include <array>
+#include <functional>
 
 using namespace ficha;
 
@@ -18,10 +16,8 @@ namespace
 
 #ifdef NDEBUG
 constexpr int Linhas = 200000;
-constexpr bool Cobrar = true;
 #else
 constexpr int Linhas = 20000;
-constexpr bool Cobrar = false;
 #endif
 
 const QString Lista = QStringLiteral("select * from cliente");
@@ -45,28 +41,6 @@ QString Roteiro()
         .arg(Linhas);
 }
 
-/** The engine's own interface and nothing else: prepare, open, fetch until the end. */
-int LacoPuro(Firebird::IAttachment *anexo)
-{
-    motor::TEstado estado;
-    const QByteArray sql = Lista.toLatin1();
-    motor::TRef<Firebird::ITransaction> t(anexo->startTransaction(estado.Api(), 0, nullptr));
-    motor::TRef<Firebird::IStatement> comando(
-        anexo->prepare(estado.Api(), t.get(), 0, sql.constData(), 3,
-                       Firebird::IStatement::PREPARE_PREFETCH_METADATA));
-    motor::TRef<Firebird::IMessageMetadata> formato(comando->getOutputMetadata(estado.Api()));
-    std::vector<unsigned char> mensagem(formato->getMessageLength(estado.Api()));
-    motor::TRef<Firebird::IResultSet> cursor(
-        comando->openCursor(estado.Api(), t.get(), nullptr, nullptr, formato.get(), 0));
-    int n = 0;
-    while (cursor->fetchNext(estado.Api(), mensagem.data()) == Firebird::IStatus::RESULT_OK)
-        ++n;
-    motor::Encerrar(estado, cursor, [](auto *c, auto *e) { c->close(e); });
-    comando.reset();
-    motor::Encerrar(estado, t, [](auto *objeto, auto *e) { objeto->commit(e); });
-    return n;
-}
-
 class DesempenhoTest : public testing::Test
 {
 protected:
@@ -74,21 +48,6 @@ protected:
     {
         query.SetSQLConnection(&banco.Conexao());
         query.SetSQL(Lista);
-    }
-
-    motor::TRef<Firebird::IAttachment> AnexoPuro()
-    {
-        motor::TEstado estado;
-        const auto &m = motor::Motor();
-        auto *dpb = m.util->getXpbBuilder(estado.Api(), Firebird::IXpbBuilder::DPB, nullptr, 0);
-        dpb->insertString(estado.Api(), isc_dpb_config, "Providers=Engine12");
-        dpb->insertString(estado.Api(), isc_dpb_user_name, "SYSDBA");
-        dpb->insertString(estado.Api(), isc_dpb_lc_ctype, "ISO8859_1");
-        motor::TRef<Firebird::IAttachment> anexo(m.provedor->attachDatabase(
-            estado.Api(), QFile::encodeName(banco.Arquivo()).constData(),
-            dpb->getBufferLength(estado.Api()), dpb->getBuffer(estado.Api())));
-        dpb->dispose();
-        return anexo;
     }
 
     TBancoTemp banco{Roteiro()};
@@ -104,41 +63,6 @@ double Segundos(const std::function<void()> &f)
 }
 
 } // namespace
-
-TEST_F(DesempenhoTest, OpeningAListAgainstTheBareFetchLoop)
-{
-    const auto anexo = AnexoPuro();
-    ASSERT_EQ(LacoPuro(anexo.get()), Linhas);
-    std::array<double, 7> puro{};
-    std::array<double, 7> nosso{};
-    std::array<double, 7> textos{};
-    qint64 tamanho = 0;
-    for (size_t i = 0; i < puro.size(); ++i) {
-        puro[i] = Segundos([&] { LacoPuro(anexo.get()); });
-        nosso[i] = Segundos([&] {
-            query.Close();
-            query.Open();
-        });
-        textos[i] = nosso[i] + Segundos([&] {
-                        for (query.First(); !query.Eof(); query.Next()) {
-                            for (const int coluna : {1, 2, 5, 7})
-                                tamanho += query.Fields(coluna)->AsString().size();
-                        }
-                    });
-    }
-    for (auto *medidas : {&puro, &nosso, &textos})
-        std::ranges::sort(*medidas);
-    std::printf("rows/s: bare loop %.0f, into compact rows %.0f (ratio %.3f), and every text read "
-                "%.0f (ratio %.3f); best ratio %.3f\n",
-                Linhas / puro[3], Linhas / nosso[3], nosso[3] / puro[3], Linhas / textos[3],
-                textos[3] / puro[3], nosso[0] / puro[0]);
-    EXPECT_EQ(query.RecordCount(), Linhas);
-    EXPECT_GT(tamanho, 0);
-    if (Cobrar) {
-        // The best of each: a loaded machine spoils single runs and even medians.
-        EXPECT_LT(nosso[0] / puro[0], 1.5);
-    }
-}
 
 TEST_F(DesempenhoTest, MemoryPerRow)
 {
