@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QObject>
-
 #include <functional>
 #include <memory>
 
@@ -12,12 +10,12 @@ namespace ficha::testes
  * Whether a handler that takes itself out of its event while it runs stays whole until its end.
  * The user's part makes the event happen; one that did not happen answers false too.
  */
-template <typename F>
-bool InteiroAoSair(std::function<void(QObject *)> &evento, F &&usuario)
+template <typename... TParametros, typename F>
+bool InteiroAoSair(std::function<void(TParametros...)> &evento, F &&usuario)
 {
     const auto vida = std::make_shared<char>();
     bool inteiro = false;
-    evento = [de = &evento, certo = &inteiro, testemunha = &vida, copia = vida](QObject *) {
+    evento = [de = &evento, certo = &inteiro, testemunha = &vida, copia = vida](TParametros...) {
         // What it holds may be gone once it is out.
         const auto &aindaVivo = *testemunha;
         bool &resposta = *certo;

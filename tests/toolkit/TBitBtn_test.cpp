@@ -3,8 +3,10 @@
 #include "platform/toolkit/TAction.h"
 #include "platform/toolkit/TActionList.h"
 #include "platform/toolkit/TForm.h"
+#include "support/TrocaDeHandler.h"
 
 using namespace ficha;
+using namespace ficha::testes;
 
 TEST(TBitBtn, FollowsAndExecutesItsAction)
 {
@@ -67,4 +69,15 @@ TEST(TBitBtn, GlyphIsAPictureByName)
     EXPECT_FALSE(botao.icon().isNull());
     botao.SetGlyph({});
     EXPECT_TRUE(botao.icon().isNull());
+}
+
+TEST(TBitBtn, TheHandlerMayTakeItselfOutOrDestroyTheButton)
+{
+    QWidget janela;
+    auto *botao = new TBitBtn(&janela);
+    EXPECT_TRUE(InteiroAoSair(botao->OnClick, [&] { QTest::mouseClick(botao, Qt::LeftButton); }));
+    const QPointer<TBitBtn> vivo(botao);
+    botao->OnClick = [&](QObject *) { delete botao; };
+    QTest::keyClick(botao, Qt::Key_Space);
+    EXPECT_TRUE(vivo.isNull());
 }

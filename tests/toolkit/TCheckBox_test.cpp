@@ -1,5 +1,6 @@
 #include "platform/toolkit/TCheckBox.h"
 
+#include "support/TrocaDeHandler.h"
 #include "support/Widgets.h"
 
 #include <QMouseEvent>
@@ -58,4 +59,17 @@ TEST(CheckBox, PropertiesForLayouts)
     EXPECT_EQ(caixa.text(), QStringLiteral("Ativo"));
     EXPECT_TRUE(caixa.isChecked());
     EXPECT_EQ(caixa.Tag, 1);
+}
+
+TEST(CheckBox, HandlersMayTakeThemselvesOutOrDestroyTheBox)
+{
+    TJanela janela;
+    auto *caixa = new TCheckBox(&janela);
+    const auto clicar = [&] { QTest::mouseClick(caixa, Qt::LeftButton, {}, QPoint(6, 8)); };
+    EXPECT_TRUE(InteiroAoSair(caixa->OnMouseDown, clicar));
+    EXPECT_TRUE(InteiroAoSair(caixa->OnClick, clicar));
+    const QPointer<TCheckBox> vivo(caixa);
+    caixa->OnClick = [&](QObject *) { delete caixa; };
+    QTest::keyClick(caixa, Qt::Key_Space);
+    EXPECT_TRUE(vivo.isNull());
 }

@@ -1,6 +1,7 @@
 #include "platform/toolkit/TComboBox.h"
 
 #include "platform/toolkit/Teclas.h"
+#include "support/TrocaDeHandler.h"
 #include "support/Widgets.h"
 
 #include <QAbstractItemView>
@@ -545,4 +546,32 @@ TEST_F(Combo, HandlerMayDestroyTheCombo)
     QTest::keyClicks(combo, QStringLiteral("s"));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(vivo.isNull());
+}
+
+TEST_F(Combo, HandlersMayTakeThemselvesOut)
+{
+    Abrir();
+    EXPECT_TRUE(
+        InteiroAoSair(combo->OnChange, [this] { QTest::keyClicks(combo, QStringLiteral("s")); }));
+    EXPECT_TRUE(InteiroAoSair(combo->OnDropDown, [this] { QTest::keyClick(combo, Qt::Key_F4); }));
+    ASSERT_TRUE(combo->DroppedDown());
+    EXPECT_TRUE(InteiroAoSair(combo->OnCloseUp,
+                              [this] { QTest::keyClick(combo->view(), Qt::Key_Escape); }));
+}
+
+TEST_F(Combo, HandlersOfTheTypedTextMayDestroyTheComboAtOnce)
+{
+    Abrir();
+    QPointer<TComboBox> vivo(combo);
+    combo->OnChange = [this](QObject *) { delete combo; };
+    QTest::keyClicks(combo, QStringLiteral("s"));
+    EXPECT_TRUE(vivo.isNull());
+    vivo = combo = new TComboBox(&janela);
+    combo->show();
+    combo->setFocus();
+    combo->SetAutoDropDown(true);
+    combo->SetAutoCloseUp(true);
+    combo->OnDropDown = [this](QObject *) { delete combo; };
+    QTest::keyClicks(combo, QStringLiteral("s"));
+    EXPECT_TRUE(vivo.isNull()) << "when typing opens the list";
 }

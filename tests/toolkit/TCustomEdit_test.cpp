@@ -1,5 +1,6 @@
 #include "platform/toolkit/TCustomEdit.h"
 
+#include "support/TrocaDeHandler.h"
 #include "support/Widgets.h"
 
 #include <QMenu>
@@ -340,4 +341,22 @@ TEST(EditAlone, WithoutTheSupportFloorARefusalIsALogLine)
     EXPECT_EQ(edit.text(), QString());
     ASSERT_EQ(linhas.size(), 1);
     EXPECT_TRUE(linhas.constFirst().startsWith(QStringLiteral("ficha: Aviso: O caractere")));
+}
+
+TEST_F(Edit, HandlersMayTakeThemselvesOut)
+{
+    edit.resize(100, 21);
+    EXPECT_TRUE(InteiroAoSair(edit.OnChange, [this] { QTest::keyClick(&edit, Qt::Key_A); }));
+    EXPECT_TRUE(InteiroAoSair(edit.OnChange, [this] { edit.setText(QStringLiteral("b")); }));
+    EXPECT_TRUE(InteiroAoSair(edit.OnClick, [this] { QTest::mouseClick(&edit, Qt::LeftButton); }));
+}
+
+TEST(CustomEdit, ClickHandlerMayDestroyTheEdit)
+{
+    TJanela janela;
+    auto *edit = new TCustomEdit(&janela);
+    const QPointer<TCustomEdit> vivo(edit);
+    edit->OnClick = [&](QObject *) { delete edit; };
+    QTest::mouseClick(edit, Qt::LeftButton);
+    EXPECT_TRUE(vivo.isNull());
 }

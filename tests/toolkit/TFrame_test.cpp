@@ -2,13 +2,14 @@
 
 #include "platform/toolkit/Layout.h"
 #include "support/PastaDeLayouts.h"
+#include "support/TrocaDeHandler.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
 using namespace ficha;
-using ficha::testes::TPastaDeLayouts;
+using namespace ficha::testes;
 
 namespace
 {
@@ -89,6 +90,29 @@ TEST(TFrame, HandlersMayBeMissing)
     EXPECT_EQ(QApplication::focusWidget(), fr);
     janela.setFocus();
     EXPECT_EQ(QApplication::focusWidget(), &janela);
+}
+
+TEST(TFrame, HandlersMayTakeThemselvesOutOrDestroyTheFrame)
+{
+    QWidget janela;
+    auto *caixa = new QVBoxLayout(&janela);
+    auto *fr = Criar<TFrame>(&janela);
+    auto *dentro = new QLineEdit(fr);
+    auto *fora = new QLineEdit;
+    caixa->addWidget(fora);
+    caixa->addWidget(fr);
+    (new QVBoxLayout(fr))->addWidget(dentro);
+    janela.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&janela));
+    fora->setFocus();
+    EXPECT_TRUE(InteiroAoSair(fr->OnEnter, [&] { QTest::keyClick(fora, Qt::Key_Tab); }));
+    EXPECT_TRUE(InteiroAoSair(fr->OnExit, [&] { QTest::mouseClick(fora, Qt::LeftButton); }));
+    QTest::mouseClick(dentro, Qt::LeftButton);
+    const QPointer<TFrame> vivo(fr);
+    fr->OnExit = [&](QObject *) { delete fr; };
+    QTest::mouseClick(fora, Qt::LeftButton);
+    EXPECT_TRUE(vivo.isNull());
+    EXPECT_EQ(QApplication::focusWidget(), fora);
 }
 
 #include "TFrame_test.moc"

@@ -1,5 +1,6 @@
 #include "platform/toolkit/TListBox.h"
 
+#include "support/TrocaDeHandler.h"
 #include "support/Widgets.h"
 
 using namespace ficha;
@@ -98,4 +99,30 @@ TEST_F(Lista, PropertiesForLayouts)
     EXPECT_EQ(outra.GetItemIndex(), 1);
     EXPECT_EQ(outra.sizeHintForRow(0), 13);
     EXPECT_EQ(outra.Tag, 1);
+}
+
+TEST_F(Lista, TheHandlerMayTakeItselfOutOrDestroyTheList)
+{
+    janela.Abrir();
+    const auto clicar = [this](int linha) {
+        QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, Linha(linha));
+    };
+    EXPECT_TRUE(InteiroAoSair(lista->OnClick, [&] { clicar(0); }));
+    EXPECT_TRUE(InteiroAoSair(lista->OnClick, [&] { QTest::keyClick(lista, Qt::Key_Down); }));
+    const QPointer<TListBox> vivo(lista);
+    lista->OnClick = [this](QObject *) { delete lista; };
+    clicar(2);
+    EXPECT_TRUE(vivo.isNull());
+}
+
+TEST_F(Lista, AReleaseBesideTheLinesIsNoClick)
+{
+    janela.Abrir();
+    QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, Linha(1));
+    EXPECT_EQ(cliques, 1);
+    QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, QPoint(20, 100));
+    EXPECT_EQ(cliques, 1);
+    QTest::mousePress(lista->viewport(), Qt::LeftButton, {}, Linha(0));
+    QTest::mouseRelease(lista->viewport(), Qt::LeftButton, {}, Linha(2));
+    EXPECT_EQ(cliques, 1) << "down on one line, up on another";
 }

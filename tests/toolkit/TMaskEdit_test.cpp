@@ -1,5 +1,6 @@
 #include "platform/toolkit/TMaskEdit.h"
 
+#include "support/TrocaDeHandler.h"
 #include "support/Widgets.h"
 
 #include <QSignalSpy>
@@ -376,4 +377,17 @@ TEST_F(Mascarado, EnteredWithoutASelectionTheCaretIsWhereTypingBegins)
     QTest::keyClicks(data, QStringLiteral("311299"));
     EXPECT_EQ(data->GetText(), QStringLiteral("311299"));
     EXPECT_EQ(entrar(QStringLiteral("01022003")), 10) << "a rest behind the mask is not typed over";
+}
+
+TEST_F(Mascarado, TheHandlerMayTakeItselfOutOrDestroyTheEdit)
+{
+    Cursor(0);
+    EXPECT_TRUE(InteiroAoSair(edit.OnChange, [this] { QTest::keyClick(&edit, Qt::Key_1); }));
+    TJanela janela;
+    auto *outro = new TMaskEdit(&janela);
+    outro->SetEditMask(QStringLiteral("99/99/99;0;_"));
+    const QPointer<TMaskEdit> vivo(outro);
+    outro->OnChange = [&](QObject *) { delete outro; };
+    QTest::keyClick(outro, Qt::Key_1);
+    EXPECT_TRUE(vivo.isNull());
 }

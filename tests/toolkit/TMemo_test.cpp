@@ -1,5 +1,6 @@
 #include "platform/toolkit/TMemo.h"
 
+#include "support/TrocaDeHandler.h"
 #include "support/Widgets.h"
 
 #include <QContextMenuEvent>
@@ -288,4 +289,12 @@ TEST_F(Memo, WhatIsPastedOrDroppedPassesThroughItsHandlerBeforeItIsMeasured)
     ColarTexto(&memo, QStringLiteral("abc"));
     EXPECT_EQ(memo.GetText(), QString());
     EXPECT_EQ(erros, 1);
+}
+
+TEST_F(Memo, HandlersMayTakeThemselvesOut)
+{
+    EXPECT_TRUE(InteiroAoSair(memo.OnChange, [this] { QTest::keyClick(&memo, Qt::Key_A); }));
+    EXPECT_TRUE(
+        InteiroAoSair(memo.OnPaste, [this] { ColarTexto(&memo, QStringLiteral("colado")); }));
+    EXPECT_EQ(memo.GetText(), QStringLiteral("acolado"));
 }

@@ -2,6 +2,7 @@
 
 #include "platform/core/Servicos.h"
 #include "platform/toolkit/TImageList.h"
+#include "support/TrocaDeHandler.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -10,6 +11,7 @@
 #include <QWheelEvent>
 
 using namespace ficha;
+using namespace ficha::testes;
 
 namespace
 {
@@ -183,4 +185,38 @@ TEST_F(TPageControlTeste, PageMayGoWhileTheQuestionIsAsked)
     Clicar(1);
     EXPECT_EQ(mudancas, 0);
     EXPECT_EQ(p.PageCount(), 3);
+}
+
+TEST_F(TPageControlTeste, HandlersMayTakeThemselvesOut)
+{
+    EXPECT_TRUE(InteiroAoSair(p.OnChanging, [this] { Clicar(1); }));
+    EXPECT_EQ(p.GetActivePageIndex(), 1);
+    EXPECT_TRUE(InteiroAoSair(p.OnChange, [this] { Clicar(2); }));
+    EXPECT_TRUE(InteiroAoSair(p.OnChange, [this] { p.SelectNextPage(true); }));
+    EXPECT_EQ(p.GetActivePageIndex(), 3);
+}
+
+TEST_F(TPageControlTeste, HandlersMayDestroyIt)
+{
+    for (const bool pergunta : {true, false}) {
+        QWidget janela;
+        auto *outro = new TPageControl(&janela);
+        for (int i = 0; i < 2; ++i)
+            new TTabSheet(outro);
+        janela.resize(300, 200);
+        outro->resize(300, 200);
+        janela.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&janela));
+        const QPointer<TPageControl> vivo(outro);
+        if (pergunta)
+            outro->OnChanging = [=](QObject *, bool &) { delete outro; };
+        else
+            outro->OnChange = [=](QObject *) { delete outro; };
+        if (pergunta)
+            QTest::keyClick(outro, Qt::Key_Tab, Qt::ControlModifier);
+        else
+            QTest::mousePress(outro->tabBar(), Qt::LeftButton, {},
+                              outro->tabBar()->tabRect(1).center());
+        EXPECT_TRUE(vivo.isNull()) << pergunta;
+    }
 }

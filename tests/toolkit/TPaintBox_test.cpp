@@ -2,6 +2,7 @@
 #include "platform/toolkit/Layout.h"
 #include "platform/toolkit/TPaintBox.h"
 #include "support/Girar.h"
+#include "support/TrocaDeHandler.h"
 #include "support/Widgets.h"
 
 #include <QPainter>
@@ -129,4 +130,10 @@ TEST_F(TPaintBoxTest, ABoxWithoutSizeDrawsNothing)
     bool chamado = false;
     caixa->Desenhar([&](QPainter &) { chamado = true; });
     EXPECT_FALSE(chamado);
+}
+
+TEST_F(TPaintBoxTest, TheHandlerMayTakeItselfOut)
+{
+    janela.Abrir();
+    EXPECT_TRUE(InteiroAoSair(caixa->OnPaint, [this] { caixa->repaint(); }));
 }

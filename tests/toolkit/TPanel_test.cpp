@@ -1,5 +1,6 @@
 #include "platform/toolkit/TPanel.h"
 
+#include "support/TrocaDeHandler.h"
 #include "support/Widgets.h"
 
 #include <QImage>
@@ -116,4 +117,17 @@ TEST(Panel, TrianglesOfTheSymbolFontPointTheirWayWithOrWithoutThatFont)
     const QImage triangulo = imagem("3");
     painel.setFont(QFont(QStringLiteral("Arial"), 20));
     EXPECT_NE(imagem("3"), triangulo) << "a digit of any other font";
+}
+
+TEST(Panel, TheHandlerMayTakeItselfOutOrDestroyThePanel)
+{
+    TJanela janela;
+    auto *painel = new TPanel(&janela);
+    painel->resize(50, 20);
+    janela.Abrir();
+    EXPECT_TRUE(InteiroAoSair(painel->OnClick, [&] { QTest::mouseClick(painel, Qt::LeftButton); }));
+    const QPointer<TPanel> vivo(painel);
+    painel->OnClick = [&](QObject *) { delete painel; };
+    QTest::mouseClick(painel, Qt::LeftButton);
+    EXPECT_TRUE(vivo.isNull());
 }

@@ -1,5 +1,6 @@
 #include "platform/toolkit/TRadioButton.h"
 
+#include "support/TrocaDeHandler.h"
 #include "support/Widgets.h"
 
 using namespace ficha;
@@ -110,6 +111,20 @@ TEST_F(RadioButton, PropertiesForLayouts)
     um->setProperty("tag", 1);
     EXPECT_EQ(um->text(), QStringLiteral("Qualquer data"));
     EXPECT_EQ(um->Tag, 1);
+}
+
+TEST_F(RadioButton, TheHandlerMayTakeItselfOutOrDestroyTheButtonLate)
+{
+    janela.Abrir();
+    const auto clicar = [](TRadioButton *botao) {
+        QTest::mouseClick(botao, Qt::LeftButton, {}, QPoint(6, 8));
+    };
+    EXPECT_TRUE(InteiroAoSair(um->OnClick, [&] { clicar(um); }));
+    const QPointer<TRadioButton> vivo(dois);
+    dois->OnClick = [this](QObject *) { dois->deleteLater(); };
+    clicar(dois);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(vivo.isNull());
 }
 
 } // namespace

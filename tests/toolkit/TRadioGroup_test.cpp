@@ -1,5 +1,6 @@
 #include "platform/toolkit/TRadioGroup.h"
 
+#include "support/TrocaDeHandler.h"
 #include "support/Widgets.h"
 
 #include <QLineEdit>
@@ -210,4 +211,14 @@ TEST_F(Radio, OptionsThatComeLateStandInTheTabOrderWhereTheGroupStands)
         tab(Qt::Key_Backtab);
         EXPECT_EQ(QApplication::focusWidget(), antes) << escolhido;
     }
+}
+
+TEST_F(Radio, TheHandlerMayTakeItselfOut)
+{
+    janela.Abrir();
+    EXPECT_TRUE(InteiroAoSair(grupo->OnClick, [this] {
+        QTest::mouseClick(grupo->Botao(0), Qt::LeftButton, {},
+                          QPoint(8, grupo->Botao(0)->height() / 2));
+    }));
+    EXPECT_TRUE(InteiroAoSair(grupo->OnClick, [this] { grupo->SetItemIndex(1); }));
 }

@@ -4,12 +4,13 @@
 #include "platform/toolkit/TActionList.h"
 #include "platform/toolkit/TImageList.h"
 #include "support/Girar.h"
+#include "support/TrocaDeHandler.h"
 
 #include <QApplication>
 #include <QLineEdit>
 
 using namespace ficha;
-using ficha::testes::Girar;
+using namespace ficha::testes;
 
 namespace
 {
@@ -200,4 +201,16 @@ TEST_F(TToolBarTeste, CaptionsFitIntoALowBar)
     barra->resize(400, 80);
     barra->Ajustar();
     EXPECT_EQ(botoes[0]->height(), botoes[0]->sizeHint().height());
+}
+
+TEST_F(TToolBarTeste, ClickHandlersMayTakeThemselvesOutOrDestroyTheButton)
+{
+    auto *botao = new TToolButton(barra);
+    barra->Ajustar();
+    Mostrar();
+    EXPECT_TRUE(InteiroAoSair(botao->OnClick, [&] { QTest::mouseClick(botao, Qt::LeftButton); }));
+    const QPointer<TToolButton> vivo(botao);
+    botao->OnClick = [&](QObject *) { delete botao; };
+    QTest::mouseClick(botao, Qt::LeftButton);
+    EXPECT_TRUE(vivo.isNull());
 }

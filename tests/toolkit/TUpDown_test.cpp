@@ -1,5 +1,6 @@
 #include "platform/toolkit/TUpDown.h"
 
+#include "support/TrocaDeHandler.h"
 #include "support/Widgets.h"
 
 #include <QToolButton>
@@ -124,4 +125,17 @@ TEST_F(UpDown, ArrowsFillItAndTakeNoFocus)
     QTest::mouseClick(Seta("Aumentar"), Qt::LeftButton);
     EXPECT_TRUE(edit->hasFocus());
     EXPECT_EQ(Seta("Aumentar")->geometry().united(Seta("Diminuir")->geometry()), botoes->rect());
+}
+
+TEST_F(UpDown, TheHandlerMayTakeItselfOutOrDestroyTheArrows)
+{
+    janela.Abrir();
+    const auto clicar = [this] { QTest::mouseClick(Seta("Aumentar"), Qt::LeftButton); };
+    EXPECT_TRUE(InteiroAoSair(botoes->OnClick, clicar));
+    EXPECT_TRUE(InteiroAoSair(botoes->OnClick, [this] { QTest::keyClick(edit, Qt::Key_Up); }));
+    const QPointer<TUpDown> vivo(botoes);
+    botoes->OnClick = [this](QObject *, bool) { delete botoes; };
+    clicar();
+    EXPECT_TRUE(vivo.isNull());
+    EXPECT_EQ(edit->text(), QStringLiteral("3"));
 }

@@ -27,12 +27,21 @@ bool Protegido(F &&f) noexcept
     }
 }
 
-/** Calls a handler that an object keeps for one of its events, Protegido; nothing without one. The
- * handler may set another one in its place or destroy the object. */
-inline void Disparar(const std::function<void(QObject *)> &evento, QObject *sender)
+/**
+ * Calls a handler that an object keeps for one of its events, Protegido; nothing without one. The
+ * handler may set another one in its place or destroy the object (with deleteLater where the
+ * toolkit's own code goes on: in a change of a text, the check of a radio button, a painting).
+ * What runs is a copy, made without an allocation for captures as plain and small as two pointers;
+ * what a handler changes in itself is lost with it.
+ * Answers whether it ended without an error.
+ */
+template <typename... TParametros, typename... TArgs>
+bool Disparar(const std::function<void(TParametros...)> &evento, TArgs &&...args) noexcept
 {
-    if (const auto handler = evento)
-        Protegido([&] { handler(sender); });
+    return !evento || Protegido([&] {
+        const auto handler = evento;
+        handler(std::forward<TArgs>(args)...);
+    });
 }
 
 /** Connects a signal to a handler that runs Protegido; it lives as long as both objects do. */

@@ -62,8 +62,8 @@ void TBitBtn::Clicado()
         form->SetModalResult(modalResult);
     if (acao)
         acao->trigger();
-    else if (OnClick)
-        Protegido([this] { OnClick(this); });
+    else
+        Disparar(OnClick, this);
     if (vivo && formVivo && fecha)
         formVivo->Close();
 }

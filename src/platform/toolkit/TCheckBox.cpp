@@ -13,17 +13,13 @@ FICHA_REGISTRAR_WIDGET(TCheckBox)
 
 TCheckBox::TCheckBox(QWidget *owner) : QCheckBox(owner)
 {
-    Ligar(this, &QCheckBox::clicked, this, [this] {
-        if (OnClick)
-            OnClick(this);
-    });
+    Ligar(this, &QCheckBox::clicked, this, [this] { Disparar(OnClick, this); });
 }
 
 void TCheckBox::mousePressEvent(QMouseEvent *evento)
 {
     const QPointer<TCheckBox> vivo(this);
-    if (OnMouseDown)
-        Protegido([&] { OnMouseDown(this, evento); });
+    Disparar(OnMouseDown, this, evento);
     if (vivo)
         QCheckBox::mousePressEvent(evento);
 }

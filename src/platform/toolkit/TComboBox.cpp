@@ -339,8 +339,7 @@ QSize TComboBox::minimumSizeHint() const
 void TComboBox::showPopup()
 {
     const QPointer<TComboBox> vivo(this);
-    if (OnDropDown)
-        Protegido([this] { OnDropDown(this); });
+    Disparar(OnDropDown, this);
     if (!vivo)
         return;
     PrepararLista();
@@ -361,9 +360,10 @@ void TComboBox::showPopup()
 void TComboBox::hidePopup()
 {
     const bool aberta = DroppedDown();
+    const QPointer<TComboBox> vivo(this);
     QComboBox::hidePopup();
-    if (aberta && OnCloseUp)
-        Protegido([this] { OnCloseUp(this); });
+    if (vivo && aberta)
+        Disparar(OnCloseUp, this);
 }
 
 bool TComboBox::eventFilter(QObject *alvo, QEvent *evento)
@@ -472,8 +472,7 @@ void TComboBox::AnunciarSeMudou()
     anunciado = std::move(agora);
     const QPointer<TComboBox> vivo(this);
     AcompanharLista();
-    if (OnChange)
-        Protegido([this] { OnChange(this); });
+    Disparar(OnChange, this);
     if (vivo)
         Q_EMIT UserChanged();
 }
@@ -483,9 +482,10 @@ void TComboBox::Digitado()
     const TEscopo escopo(this);
     if (autoComplete)
         Completar();
+    const QPointer<TComboBox> vivo(this);
     if (autoDropDown && !DroppedDown() && isVisible())
         showPopup();
-    if (autoCloseUp && DroppedDown() && !lineEdit()->hasSelectedText()) {
+    if (vivo && autoCloseUp && DroppedDown() && !lineEdit()->hasSelectedText()) {
         const int unico = PrimeiroComecadoPor(currentText());
         if (unico >= 0 && itemText(unico).size() == currentText().size() &&
             ComecadoPor(Procurado(currentText()), unico + 1) < 0)

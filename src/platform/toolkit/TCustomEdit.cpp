@@ -244,8 +244,8 @@ void TCustomEdit::mouseReleaseEvent(QMouseEvent *evento)
         return;
     }
     QLineEdit::mouseReleaseEvent(evento);
-    if (evento->button() == Qt::LeftButton && OnClick && rect().contains(evento->pos()))
-        Protegido([this] { OnClick(this); });
+    if (evento->button() == Qt::LeftButton && rect().contains(evento->pos()))
+        Disparar(OnClick, this);
 }
 
 void TCustomEdit::dropEvent(QDropEvent *evento)
@@ -292,13 +292,13 @@ void TCustomEdit::Mudou()
 {
     if (TemMotor() && TextoExibido() != esperado) {
         const QString texto = esperado = TextoExibido();
+        const QPointer<TCustomEdit> vivo(this);
         TextoDeFora(texto);
         // What was brought into form was announced by itself.
-        if (esperado != texto)
+        if (!vivo || esperado != texto)
             return;
     }
-    if (OnChange)
-        Protegido([this] { OnChange(this); });
+    Disparar(OnChange, this);
 }
 
 bool TCustomEdit::TratarComando(QKeyEvent *evento)

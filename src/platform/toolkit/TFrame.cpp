@@ -1,5 +1,6 @@
 #include "platform/toolkit/TFrame.h"
 
+#include "platform/toolkit/Evento.h"
 #include "platform/toolkit/Foco.h"
 #include "platform/toolkit/Layout.h"
 
@@ -13,14 +14,8 @@ void TFrame::Create(QWidget *owner)
     setParent(owner);
     CarregarLayouts(this);
     PegarComponentes();
-    AoEntrar(this, [this] {
-        if (OnEnter)
-            OnEnter(this);
-    });
-    AoSair(this, [this] {
-        if (OnExit)
-            OnExit(this);
-    });
+    AoEntrar(this, [this] { Disparar(OnEnter, this); });
+    AoSair(this, [this] { Disparar(OnExit, this); });
 }
 
 void TFrame::SetFocus()

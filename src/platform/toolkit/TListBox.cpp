@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QPointer>
 
+#include <utility>
+
 namespace ficha
 {
 
@@ -17,10 +19,7 @@ TListBox::TListBox(QWidget *owner) : QListWidget(owner)
 {
     setSelectionMode(QAbstractItemView::SingleSelection);
     setUniformItemSizes(true);
-    Ligar(this, &QListWidget::itemClicked, this, [this] {
-        if (OnClick)
-            OnClick(this);
-    });
+    connect(this, &QListWidget::itemClicked, this, [this] { clicada = true; });
 }
 
 QStringList TListBox::GetItems() const
@@ -130,8 +129,17 @@ void TListBox::keyPressEvent(QKeyEvent *evento)
     const int antes = GetItemIndex();
     const QPointer<TListBox> vivo(this);
     QListWidget::keyPressEvent(evento);
-    if (vivo && GetItemIndex() != antes && OnClick)
-        Protegido([this] { OnClick(this); });
+    if (vivo && GetItemIndex() != antes)
+        Disparar(OnClick, this);
+}
+
+void TListBox::mouseReleaseEvent(QMouseEvent *evento)
+{
+    const QPointer<TListBox> vivo(this);
+    QListWidget::mouseReleaseEvent(evento);
+    // Not from the list's own signal: the view goes on after it, and the handler may destroy it.
+    if (vivo && std::exchange(clicada, false))
+        Disparar(OnClick, this);
 }
 
 } // namespace ficha

@@ -66,9 +66,12 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *evento) override;
+    void mouseReleaseEvent(QMouseEvent *evento) override;
 
 private:
     int itemHeight = 0;
+    /** A line was clicked by the release under way. */
+    bool clicada = false;
 };
 
 } // namespace ficha

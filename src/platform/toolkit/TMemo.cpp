@@ -53,8 +53,7 @@ TMemo::TMemo(QWidget *owner) : QPlainTextEdit(owner)
     Ligar(this, &QPlainTextEdit::textChanged, this, [this] {
         if (doUsuario)
             Q_EMIT UserChanged();
-        if (OnChange)
-            OnChange(this);
+        Disparar(OnChange, this);
     });
 }
 
@@ -208,7 +207,7 @@ void TMemo::insertFromMimeData(const QMimeData *dados)
     if (isReadOnly() || !dados->hasText())
         return;
     QString texto = NormalizarEntrada(dados->text(), false);
-    if (OnPaste && !soltandoDaqui && !Protegido([&] { OnPaste(texto); }))
+    if (!soltandoDaqui && !Disparar(OnPaste, texto))
         return;
     // A text moved inside the memo was let in before, and is already taken from its old place.
     if (!soltandoDaqui && Recusar(texto))

@@ -188,9 +188,10 @@ void TPageControl::SelectNextPage(bool goForward, bool checkTabVisible)
     const int nova = Vizinha(currentIndex(), goForward ? 1 : -1, checkTabVisible, true);
     if (nova < 0 || nova == currentIndex())
         return;
+    const QPointer<TPageControl> vivo = this;
     setCurrentIndex(nova);
-    if (OnChange)
-        Protegido([this] { OnChange(this); });
+    if (vivo)
+        Disparar(OnChange, this);
 }
 
 bool TPageControl::MudarComoUsuario(int indice)
@@ -200,13 +201,13 @@ bool TPageControl::MudarComoUsuario(int indice)
         return false;
     const QPointer<TPageControl> vivo = this;
     bool pode = true;
-    if (OnChanging && !Protegido([&] { OnChanging(this, pode); }))
+    if (!Disparar(OnChanging, this, pode))
         pode = false;
     if (!vivo || !pode || !pagina)
         return false;
     setCurrentWidget(pagina);
-    if (vivo && OnChange)
-        Protegido([this] { OnChange(this); });
+    if (vivo)
+        Disparar(OnChange, this);
     return true;
 }
 

@@ -35,7 +35,8 @@ void TPaintBox::paintEvent(QPaintEvent *)
     if (OnPaint && (nova || !fresca)) {
         const QScopedValueRollback<bool> guarda(pintando, true);
         try {
-            OnPaint(this);
+            const auto pintar = OnPaint; // it may set another one in its place
+            pintar(this);
         } catch (...) {
             QTimer::singleShot(0, QCoreApplication::instance(),
                                [erro = std::current_exception()] { ReportarErro(erro); });

@@ -7,6 +7,7 @@
 #include <QFontDatabase>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 
 namespace ficha
 {
@@ -122,8 +123,13 @@ void TPanel::paintEvent(QPaintEvent *evento)
 void TPanel::mouseReleaseEvent(QMouseEvent *evento)
 {
     QFrame::mouseReleaseEvent(evento);
-    if (evento->button() == Qt::LeftButton && OnClick && rect().contains(evento->pos()))
-        Protegido([this] { OnClick(this); });
+    if (evento->button() != Qt::LeftButton || !rect().contains(evento->pos()))
+        return;
+    const QPointer<TPanel> vivo(this);
+    Disparar(OnClick, this);
+    // An ignored button goes on to the parent, which a destroyed panel no longer knows.
+    if (!vivo)
+        evento->accept();
 }
 
 } // namespace ficha

@@ -32,8 +32,8 @@ TRadioButton::TRadioButton(QWidget *owner) : QRadioButton(owner)
     Agrupar();
     Ligar(this, &QRadioButton::toggled, this, [this] {
         Indicar();
-        if (isChecked() && OnClick)
-            OnClick(this);
+        if (isChecked())
+            Disparar(OnClick, this);
     });
 }
 

@@ -180,8 +180,7 @@ void TRadioGroup::Marcado()
     if (calado)
         return;
     const QPointer<TRadioGroup> vivo(this);
-    if (OnClick)
-        Protegido([this] { OnClick(this); });
+    Disparar(OnClick, this);
     if (vivo)
         Q_EMIT Clicked();
 }

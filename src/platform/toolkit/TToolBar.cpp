@@ -24,8 +24,8 @@ TToolButton::TToolButton(QWidget *owner) : QToolButton(owner)
     connect(this, &QToolButton::clicked, this, [this] {
         if (acao)
             acao->trigger();
-        else if (OnClick)
-            Protegido([this] { OnClick(this); });
+        else
+            Disparar(OnClick, this);
     });
     Sincronizar();
 }

@@ -77,8 +77,7 @@ void TUpDown::Passo(bool paraCima)
     if (!vivo)
         return;
     SetPosition(int(std::clamp(depois, -32768.0, 32767.0)));
-    if (OnClick)
-        Protegido([this, paraCima] { OnClick(this, paraCima); });
+    Disparar(OnClick, this, paraCima);
 }
 
 QSize TUpDown::sizeHint() const
