@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QEventLoop>
 #include <QTimer>
+#include <QtGlobal>
 
 namespace ficha::testes
 {
