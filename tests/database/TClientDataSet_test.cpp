@@ -364,6 +364,31 @@ TEST_F(TClientDataSetTest, RowsPostedWhileDisabledAreSortedAtTheEnd)
     EXPECT_EQ(cds.RecNo(), 2);
 }
 
+TEST_F(TClientDataSetTest, AFilterThatFailsOnEnablingDoesNotKeepTheControlsDisabled)
+{
+    cds.AddIndex(QStringLiteral("a"), QStringLiteral("nome"));
+    cds.SetIndexName(QStringLiteral("a"));
+    bool falha = false;
+    cds.SetOnFilterRecord([&](const TDataSet &) {
+        if (falha)
+            throw EErro(QStringLiteral("filtro"));
+        return true;
+    });
+    cds.SetFiltered(true);
+    QSignalSpy mudou(&cds, &TDataSet::DadosMudaram);
+    cds.DisableControls();
+    Por(L("c a b"));
+    falha = true;
+    EXPECT_THROW(cds.EnableControls(), EErro);
+    EXPECT_FALSE(cds.ControlsDisabled());
+    EXPECT_EQ(mudou.count(), 1) << "who shows the rows knows of them";
+    EXPECT_EQ(Nomes(), L("c a b")) << "as they stood";
+    falha = false;
+    cds.DisableControls();
+    cds.EnableControls();
+    EXPECT_EQ(Nomes(), L("a b c")) << "and they are put in order by the next";
+}
+
 TEST_F(TClientDataSetTest, DisabledNothingIsAnnouncedEnabledOnce)
 {
     QSignalSpy antes(&cds, &TDataSet::BeforeScroll), rolou(&cds, &TDataSet::AfterScroll);

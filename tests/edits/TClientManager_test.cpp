@@ -1,6 +1,7 @@
 #include "platform/edits/TClientManager.h"
 
 #include "platform/core/Erros.h"
+#include "platform/core/Servicos.h"
 #include "platform/database/EDatabaseError.h"
 #include "platform/support/TDBGrid.h"
 #include "platform/support/TDataSource.h"
@@ -181,6 +182,82 @@ TEST_F(TClientManagerTest, AFailedReadLeavesAnEmptyListThatIsReadAgain)
     lista.OnListUpDate = certo;
     lista.Atualizar();
     EXPECT_EQ(lista.CDS1->RecordCount(), 3);
+}
+
+TEST_F(TClientManagerTest, AFilterThatFailsAtTheEndOfAReadIsTheReadersError)
+{
+    lista.Carregar();
+    Clicar("nome");
+    bool falha = false;
+    lista.CDS1->SetOnFilterRecord([&](const TDataSet &) {
+        if (falha)
+            throw EErro(QStringLiteral("filtro"));
+        return true;
+    });
+    lista.CDS1->SetFiltered(true);
+    TServicosGuarda guarda;
+    QStringList relatados;
+    Servicos().ReportarErro = [&](std::exception_ptr erro) { relatados << TextoDoErro(erro); };
+    const auto certo = lista.OnListUpDate;
+    lista.OnListUpDate = [&](QObject *sender) {
+        certo(sender);
+        falha = true;
+    };
+    EXPECT_THROW(lista.Carregar(), EErro);
+    EXPECT_EQ(lista.CDS1->RecordCount(), 0);
+    EXPECT_FALSE(lista.CDS1->ControlsDisabled());
+    EXPECT_EQ(grid.GetRowCount(), 2) << "the grid knows: one blank row";
+    lista.OnListUpDate = [&](QObject *) {
+        falha = false;
+        lista.CDS1->AppendRecord({9, QStringLiteral("z")});
+        falha = true;
+        throw EErro(QStringLiteral("leitura"));
+    };
+    try {
+        lista.Carregar();
+        ADD_FAILURE() << "the read failed";
+    } catch (const EErro &) {
+        EXPECT_EQ(TextoDoErro(std::current_exception()), QStringLiteral("leitura"));
+    }
+    EXPECT_EQ(relatados, QStringList()) << "nothing is left to be filtered";
+    falha = false;
+    lista.OnListUpDate = certo;
+    lista.Atualizar();
+    EXPECT_EQ(lista.CDS1->RecordCount(), 3);
+    EXPECT_EQ(Nomes().size(), 3);
+}
+
+TEST_F(TClientManagerTest, WhatFailsWhenAFailedCopyShowsItsRowsIsReported)
+{
+    lista.Carregar();
+    Clicar("nome");
+    int permitidas = 3 + 1; // the rows there, and the first that comes
+    lista.CDS1->SetOnFilterRecord([&](const TDataSet &) {
+        if (--permitidas < 0)
+            throw EErro(QStringLiteral("filtro"));
+        return true;
+    });
+    lista.CDS1->SetFiltered(true);
+    TServicosGuarda guarda;
+    QStringList relatados;
+    Servicos().ReportarErro = [&](std::exception_ptr erro) { relatados << TextoDoErro(erro); };
+    TClientDataSet origem;
+    origem.AddField(QStringLiteral("cod"), TFieldType::ftString, 20);
+    origem.CreateDataSet();
+    origem.Open();
+    origem.AppendRecord({QStringLiteral("7")});
+    origem.AppendRecord({QStringLiteral("letras")});
+    QString erroDaCopia;
+    try {
+        lista.CopiarDe(origem);
+    } catch (...) {
+        erroDaCopia = TextoDoErro(std::current_exception());
+    }
+    EXPECT_NE(erroDaCopia, QString());
+    EXPECT_NE(erroDaCopia, QStringLiteral("filtro")) << "the copy's own error is its caller's";
+    EXPECT_EQ(relatados, L("filtro"));
+    EXPECT_FALSE(lista.CDS1->ControlsDisabled());
+    EXPECT_EQ(grid.GetRowCount(), 1 + 4) << "the grid knows of the row that came";
 }
 
 TEST_F(TClientManagerTest, WithoutFieldsThereIsNoListAndNoFault)

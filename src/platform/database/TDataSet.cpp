@@ -5,6 +5,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <exception>
 
 namespace ficha
 {
@@ -155,14 +156,22 @@ void TDataSet::EnableControls()
 {
     if (desabilitados == 0)
         return;
-    if (desabilitados == 1)
-        AntesDeHabilitar();
-    if (--desabilitados > 0 || !aberto)
-        return;
-    if (std::exchange(mudouCalado, false))
-        Q_EMIT DadosMudaram();
-    if (std::exchange(rolouCalado, false) && aberto)
-        Q_EMIT AfterScroll();
+    std::exception_ptr erro;
+    try {
+        if (desabilitados == 1)
+            AntesDeHabilitar();
+    } catch (...) {
+        // The rows stay as they stand; who shows them must know of them all the same.
+        erro = std::current_exception();
+    }
+    if (--desabilitados == 0 && aberto) {
+        if (std::exchange(mudouCalado, false))
+            Q_EMIT DadosMudaram();
+        if (std::exchange(rolouCalado, false) && aberto)
+            Q_EMIT AfterScroll();
+    }
+    if (erro)
+        std::rethrow_exception(erro);
 }
 
 QString TDataSet::CelulaTexto(int linha, int coluna) const

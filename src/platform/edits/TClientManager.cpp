@@ -3,6 +3,7 @@
 #include "platform/support/DBGridDrawCell.h"
 #include "platform/support/TDBGrid.h"
 #include "platform/support/TDataSource.h"
+#include "platform/toolkit/Evento.h"
 
 #include <utility>
 #include <vector>
@@ -22,18 +23,28 @@ void Chamar(const std::function<void(QObject *)> &evento, QObject *sender)
         handler(sender);
 }
 
-/** Nothing announces itself while it lives. */
+/**
+ * Nothing announces itself until Terminar, which raises what putting the rows in order raises (a
+ * filter of the host's, asked again). Left by another error the controls come back too, and what
+ * that raises goes to the host's error report.
+ */
 class TCalado
 {
 public:
     explicit TCalado(TDataSet *calar) : dataset(calar) { dataset->DisableControls(); }
     ~TCalado()
     {
-        if (dataset)
-            dataset->EnableControls();
+        Protegido([this] { Terminar(); });
     }
     TCalado(const TCalado &) = delete;
     TCalado &operator=(const TCalado &) = delete;
+
+    void Terminar()
+    {
+        // Forgotten first: an error must not have the controls enabled twice.
+        if (const QPointer<TDataSet> calado = std::exchange(dataset, nullptr))
+            calado->EnableControls();
+    }
 
 private:
     QPointer<TDataSet> dataset;
@@ -72,8 +83,8 @@ void TClientManager::Carregar()
     if (!Preparar())
         return;
     vencida = true;
+    TCalado calado(CDS1);
     try {
-        const TCalado calado(CDS1);
         CDS1->EmptyDataSet();
         Chamar(OnListUpDate, this);
         if (vivo && CDS1) {
@@ -81,6 +92,7 @@ void TClientManager::Carregar()
             CDS1->PorEmOrdem();
             CDS1->First();
         }
+        calado.Terminar();
     } catch (...) {
         // Half a list would be taken for the whole one.
         if (vivo && CDS1)
@@ -116,7 +128,7 @@ void TClientManager::CopiarDe(TDataSet &origem)
         if (const TField *de = origem.FindField(para->FieldName()))
             pares.emplace_back(de, para);
     }
-    const TCalado calado(CDS1);
+    TCalado calado(CDS1);
     for (int linha = 1; linha <= origem.RecordCount(); ++linha) {
         const TLerLinha ler(&origem, linha);
         CDS1->Append();
@@ -124,6 +136,7 @@ void TClientManager::CopiarDe(TDataSet &origem)
             para->SetValue(de->Value());
         CDS1->Post();
     }
+    calado.Terminar();
 }
 
 void TClientManager::TitleClick(TDBGrid *, TColumn *column)
