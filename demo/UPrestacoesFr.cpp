@@ -54,6 +54,8 @@ void TPrestacoesFr::PreencherDados()
         CDS->AppendRecord({i, vencimento, FormatDateTime(QStringLiteral("dddd"), vencimento), juros,
                            paga, saldo, int(ultima)});
     }
+    // Sorted first: the row that is first now need not stay it.
+    CDS->PorEmOrdem();
     CDS->First();
 }
 

@@ -11,17 +11,42 @@ using namespace comercial;
 using namespace ficha;
 using namespace ficha::testes;
 
-TEST(TPrestacoesFr, TwelveInstalmentsPayTheSaleToTheCentavo)
+namespace
 {
-    SetRelogio([] { return TDateTime(QDateTime(QDate(2024, 1, 31), QTime(10, 0))); });
+
+class TPrestacoesFrTest : public testing::Test
+{
+protected:
+    TPrestacoesFrTest()
+    {
+        SetRelogio([] { return TDateTime(QDateTime(QDate(2024, 1, 31), QTime(10, 0))); });
+        tela.resize(fr->size());
+    }
+    ~TPrestacoesFrTest() override { SetRelogio({}); }
+
+    void Mostrar()
+    {
+        tela.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&tela));
+        fr->DoShow();
+        Girar();
+    }
+    void ClicarTitulo(int coluna)
+    {
+        TDBGrid *grid = fr->DBGrid1;
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->CellRect(coluna, 0).center());
+    }
+
     const TFicha biblioteca;
     QWidget tela;
-    auto *fr = Criar<TPrestacoesFr>(&tela);
-    tela.resize(fr->size());
-    tela.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&tela));
-    fr->DoShow();
-    Girar();
+    TPrestacoesFr *fr = Criar<TPrestacoesFr>(&tela);
+};
+
+} // namespace
+
+TEST_F(TPrestacoesFrTest, TwelveInstalmentsPayTheSaleToTheCentavo)
+{
+    Mostrar();
     TClientDataSet *cds = fr->CDS;
     ASSERT_EQ(cds->RecordCount(), 12);
     EXPECT_EQ(fr->DBGrid1->GetCell(1, 1), QStringLiteral("29/02/2024"));
@@ -33,9 +58,24 @@ TEST(TPrestacoesFr, TwelveInstalmentsPayTheSaleToTheCentavo)
     }
     EXPECT_NEAR(amortizado, 5400, 0.001);
     EXPECT_EQ(fr->DBGrid1->GetCell(5, 12), QStringLiteral("0,00"));
-    TDBGrid *grid = fr->DBGrid1;
-    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->CellRect(5, 0).center());
-    EXPECT_EQ(grid->GetCell(0, 1), QStringLiteral("12")) << "by what is still owed";
+    ClicarTitulo(5);
+    EXPECT_EQ(fr->DBGrid1->GetCell(0, 1), QStringLiteral("12")) << "by what is still owed";
     Retratar(&tela, QStringLiteral("TPrestacoesFr"));
-    SetRelogio({});
+}
+
+TEST_F(TPrestacoesFrTest, ASortedListReadAgainStandsOnTheFirstRowShown)
+{
+    Mostrar();
+    ClicarTitulo(5);
+    fr->CDS->Last();
+    QList<int> atuais;
+    QObject::connect(fr->CDS, &TDataSet::AfterScroll, [&] {
+        atuais << fr->CDS->FieldByName(QStringLiteral("numero"))->AsInteger();
+    });
+    fr->PreencherDados();
+    EXPECT_EQ(fr->DBGrid1->GetCell(0, 1), QStringLiteral("12")) << "sorted still";
+    EXPECT_EQ(fr->CDS->RecNo(), 1);
+    EXPECT_EQ(fr->CDS->FieldByName(QStringLiteral("numero"))->AsInteger(), 12);
+    EXPECT_EQ(fr->DBGrid1->GetRow(), 1);
+    EXPECT_EQ(atuais, QList<int>{12}) << "announced once, on no other row";
 }
