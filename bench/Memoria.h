@@ -9,4 +9,7 @@ namespace bancada
  * the difference before and after. */
 qint64 MemoriaEmUso();
 
+/** Bytes of data of this process that are mapped outside the allocator. */
+qint64 MemoriaMapeada();
+
 } // namespace bancada

@@ -120,7 +120,7 @@ private:
         const unsigned n = formato->getCount(api);
         for (unsigned i = 0; i < n; ++i)
             colunas.push_back(DescreverColuna(i));
-        mensagem.resize(formato->getMessageLength(api));
+        mensagem.resize(formato->getMessageLength(api) + TLinhasCompactas::Folga);
         con.Verificar();
     }
 

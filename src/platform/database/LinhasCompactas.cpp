@@ -3,6 +3,9 @@
 #include <array>
 #include <charconv>
 #include <cstring>
+#include <new>
+
+#include <sys/mman.h>
 
 namespace ficha
 {
@@ -12,6 +15,10 @@ namespace
 
 constexpr size_t PrimeiraArena = 4096;
 constexpr size_t MaiorArena = size_t(256) * 1024;
+/** From here on the rows lie in pages of this size: the first touch of small ones, one after the
+ * other, would cost a long list more than the copying of its rows. */
+constexpr qint64 ListaLonga = qint64(4) * 1024 * 1024;
+constexpr size_t PaginaGrande = size_t(2) * 1024 * 1024;
 /** The engine counts days from 17/11/1858, TDateTime from 30/12/1899. */
 constexpr int DiaZeroDoMotor = 15018;
 constexpr double TiquesPorDia = 864000000.0;
@@ -127,6 +134,33 @@ TDateTime DeMomento(const unsigned char *onde)
 
 } // namespace
 
+TLinhasCompactas::TArena TLinhasCompactas::NovaArena(size_t bytes)
+{
+    if (bytes != PaginaGrande)
+        return {new unsigned char[bytes], {0}};
+    // The system gives pages of this size only where they are aligned, so twice as much is asked
+    // for and the ends are given back. A system without them gives small ones.
+    void *tudo =
+        mmap(nullptr, 2 * PaginaGrande, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (tudo == MAP_FAILED)
+        throw std::bad_alloc();
+    auto *const inicio = static_cast<unsigned char *>(tudo);
+    const size_t antes = (PaginaGrande - size_t(inicio) % PaginaGrande) % PaginaGrande;
+    if (antes > 0)
+        munmap(inicio, antes);
+    munmap(inicio + antes + PaginaGrande, PaginaGrande - antes);
+    madvise(inicio + antes, PaginaGrande, MADV_HUGEPAGE);
+    return {inicio + antes, {PaginaGrande}};
+}
+
+void TLinhasCompactas::TSoltaArena::operator()(unsigned char *arena) const
+{
+    if (mapeados > 0)
+        munmap(arena, mapeados);
+    else
+        delete[] arena;
+}
+
 void TLinhasCompactas::Preparar(std::vector<TColunaFisica> novas)
 {
     Limpar();
@@ -137,88 +171,120 @@ void TLinhasCompactas::Preparar(std::vector<TColunaFisica> novas)
 void TLinhasCompactas::Distribuir()
 {
     lugares.assign(colunas.size(), {});
+    nulos.clear();
+    fixos.clear();
+    textos.clear();
     std::uint32_t posicao = std::uint32_t((colunas.size() + 7) / 8);
-    std::int32_t textos = 0;
     std::uint64_t maiorTexto = 0;
     bool temBlob = false;
     for (size_t i = 0; i < colunas.size(); ++i) {
-        if (EhTexto(colunas[i].tipo)) {
-            lugares[i].texto = textos++;
-            maiorTexto += colunas[i].largura;
-            temBlob = temBlob || colunas[i].tipo == TFisico::Blob;
+        const TColunaFisica &c = colunas[i];
+        nulos.push_back(c.posicaoNulo);
+        if (EhTexto(c.tipo)) {
+            lugares[i].texto = std::int32_t(textos.size());
+            textos.push_back({c.tipo, c.brancos, c.posicao, c.posicaoNulo, c.largura, i, 0});
+            maiorTexto += c.largura;
+            temBlob = temBlob || c.tipo == TFisico::Blob;
         } else {
             lugares[i].posicao = posicao;
-            posicao += BytesFixos(colunas[i].tipo);
+            fixos.push_back({BytesFixos(c.tipo), c.posicao, posicao});
+            posicao += BytesFixos(c.tipo);
         }
     }
-    comprimentos.assign(size_t(textos), 0);
     inicioDosFins = posicao;
-    finsLargos = temBlob || posicao + 4 * std::uint64_t(textos) + maiorTexto > 0xFFFF;
-    inicioDosTextos = posicao + std::uint32_t(textos) * (finsLargos ? 4 : 2);
-}
-
-void TLinhasCompactas::MedirTextos(const unsigned char *mensagem,
-                                   const std::vector<QByteArray> &blobs)
-{
-    size_t texto = 0;
-    for (size_t i = 0; i < colunas.size(); ++i) {
-        const TColunaFisica &c = colunas[i];
-        if (lugares[i].texto < 0)
-            continue;
-        std::uint32_t n = 0;
-        if (Ler<std::int16_t>(mensagem + c.posicaoNulo) == 0) {
-            if (c.tipo == TFisico::VarChar)
-                n = Ler<std::uint16_t>(mensagem + c.posicao);
-            else if (c.tipo == TFisico::Char)
-                n = c.brancos ? SemBrancos(mensagem + c.posicao, c.largura) : c.largura;
-            else
-                n = std::uint32_t(blobs[i].size());
-        }
-        comprimentos[texto++] = n;
-    }
+    finsLargos = temBlob || posicao + 4 * std::uint64_t(textos.size()) + maiorTexto > 0xFFFF;
+    inicioDosTextos = posicao + std::uint32_t(textos.size()) * (finsLargos ? 4 : 2);
 }
 
 void TLinhasCompactas::Acrescentar(const unsigned char *mensagem,
                                    const std::vector<QByteArray> &blobs)
 {
-    MedirTextos(mensagem, blobs);
-    size_t total = inicioDosTextos;
-    for (const std::uint32_t n : comprimentos)
-        total += n;
-    unsigned char *linha = Alocar(total);
-    std::memset(linha, 0, (colunas.size() + 7) / 8);
-    std::uint32_t fim = inicioDosTextos;
-    for (size_t i = 0; i < colunas.size(); ++i) {
-        const TColunaFisica &c = colunas[i];
-        const bool nulo = Ler<std::int16_t>(mensagem + c.posicaoNulo) != 0;
-        if (nulo)
-            linha[i / 8] |= static_cast<unsigned char>(1U << (i % 8));
-        if (lugares[i].texto >= 0)
-            CopiarTexto(linha, i, mensagem, blobs, fim);
-        else if (!nulo)
-            std::memcpy(linha + lugares[i].posicao, mensagem + c.posicao, BytesFixos(c.tipo));
-    }
+    unsigned char *linha = Alocar(inicioDosTextos + MedirTextos(mensagem, blobs));
+    CopiarNulos(linha, mensagem);
+    CopiarFixos(linha, mensagem);
+    CopiarTextos(linha, mensagem, blobs);
     linhas.push_back(linha);
 }
 
-void TLinhasCompactas::CopiarTexto(unsigned char *linha, size_t i, const unsigned char *mensagem,
-                                   const std::vector<QByteArray> &blobs, std::uint32_t &fim) const
+/** Answers the bytes of all texts of the row. */
+size_t TLinhasCompactas::MedirTextos(const unsigned char *mensagem,
+                                     const std::vector<QByteArray> &blobs)
 {
-    const TColunaFisica &c = colunas[i];
-    const auto texto = size_t(lugares[i].texto);
-    const std::uint32_t n = comprimentos[texto];
-    if (n > 0) {
-        const unsigned char *origem =
-            c.tipo == TFisico::Blob ? reinterpret_cast<const unsigned char *>(blobs[i].constData())
-                                    : mensagem + c.posicao + (c.tipo == TFisico::VarChar ? 2 : 0);
-        std::memcpy(linha + fim, origem, n);
-        fim += n;
+    size_t total = 0;
+    for (TTexto &t : textos) {
+        std::uint32_t n = 0;
+        if (Ler<std::int16_t>(mensagem + t.posicaoNulo) == 0) {
+            if (t.tipo == TFisico::VarChar)
+                n = Ler<std::uint16_t>(mensagem + t.posicao);
+            else if (t.tipo == TFisico::Char)
+                n = t.brancos ? SemBrancos(mensagem + t.posicao, t.largura) : t.largura;
+            else
+                n = std::uint32_t(blobs[t.coluna].size());
+        }
+        t.bytes = n;
+        total += n;
     }
-    if (finsLargos) {
-        std::memcpy(linha + inicioDosFins + 4 * texto, &fim, 4);
-    } else {
-        const auto curto = std::uint16_t(fim);
-        std::memcpy(linha + inicioDosFins + 2 * texto, &curto, 2);
+    return total;
+}
+
+void TLinhasCompactas::CopiarNulos(unsigned char *linha, const unsigned char *mensagem) const
+{
+    for (size_t i = 0; i < nulos.size(); i += 8) {
+        const size_t n = std::min<size_t>(8, nulos.size() - i);
+        unsigned bits = 0;
+        for (size_t j = 0; j < n; ++j)
+            bits |= unsigned(Ler<std::int16_t>(mensagem + nulos[i + j]) != 0) << j;
+        linha[i / 8] = static_cast<unsigned char>(bits);
+    }
+}
+
+/** Null values too: nobody looks at what stands there, and asking costs more than copying. */
+void TLinhasCompactas::CopiarFixos(unsigned char *linha, const unsigned char *mensagem) const
+{
+    for (const TFixo &f : fixos) {
+        // Of a size that the compiler knows, each is one instruction and no call.
+        switch (f.bytes) {
+        case 1:
+            linha[f.destino] = mensagem[f.origem];
+            break;
+        case 2:
+            std::memcpy(linha + f.destino, mensagem + f.origem, 2);
+            break;
+        case 4:
+            std::memcpy(linha + f.destino, mensagem + f.origem, 4);
+            break;
+        default:
+            std::memcpy(linha + f.destino, mensagem + f.origem, 8);
+            break;
+        }
+    }
+}
+
+void TLinhasCompactas::CopiarTextos(unsigned char *linha, const unsigned char *mensagem,
+                                    const std::vector<QByteArray> &blobs) const
+{
+    std::uint32_t fim = inicioDosTextos;
+    unsigned char *ondeOFim = linha + inicioDosFins;
+    for (const TTexto &t : textos) {
+        if (t.tipo == TFisico::Blob) {
+            if (t.bytes > 0)
+                std::memcpy(linha + fim, blobs[t.coluna].constData(), t.bytes);
+        } else {
+            const unsigned char *origem =
+                mensagem + t.posicao + (t.tipo == TFisico::VarChar ? sizeof(std::uint16_t) : 0);
+            // Whole blocks: what is too much is overwritten by what follows.
+            for (std::uint32_t n = 0; n < t.bytes; n += Folga)
+                std::memcpy(linha + fim + n, origem + n, Folga);
+        }
+        fim += t.bytes;
+        if (finsLargos) {
+            std::memcpy(ondeOFim, &fim, 4);
+            ondeOFim += 4;
+        } else {
+            const auto curto = std::uint16_t(fim);
+            std::memcpy(ondeOFim, &curto, 2);
+            ondeOFim += 2;
+        }
     }
 }
 
@@ -226,10 +292,11 @@ unsigned char *TLinhasCompactas::Alocar(size_t bytes)
 {
     if (bytes > livre) {
         proximaArena = proximaArena == 0 ? PrimeiraArena : std::min(proximaArena * 4, MaiorArena);
-        const size_t tamanho = std::max(bytes, proximaArena);
-        arenas.push_back(std::make_unique_for_overwrite<unsigned char[]>(tamanho));
+        const size_t proxima = bytesDasArenas < ListaLonga ? proximaArena : PaginaGrande;
+        const size_t tamanho = std::max(bytes + Folga, proxima);
+        arenas.push_back(NovaArena(tamanho));
         proximo = arenas.back().get();
-        livre = tamanho;
+        livre = tamanho - Folga;
         bytesDasArenas += qint64(tamanho);
     }
     unsigned char *pedaco = proximo;

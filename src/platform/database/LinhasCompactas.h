@@ -42,8 +42,8 @@ struct TColunaFisica {
 /**
  * Rows packed as tightly as they can be read without a search: a null bitmap, the fixed-size
  * values, the end of each text, the bytes of the texts. They lie in arenas of at most 256 KiB (the
- * first ones smaller, so that a look-up of one row costs little) and are found through a vector of
- * pointers. Nothing in a row is aligned.
+ * first ones smaller, so that a look-up of one row costs little; those behind the first 4 MiB of
+ * 2 MiB, in large pages) and are found through a vector of pointers. Nothing in a row is aligned.
  */
 class TLinhasCompactas
 {
@@ -53,6 +53,8 @@ public:
     /** Copies a row from the engine's message; blobs holds the bytes of the blob columns, by
      * column. */
     void Acrescentar(const unsigned char *mensagem, const std::vector<QByteArray> &blobs);
+    /** Bytes behind the message's end that must be readable: texts are copied in blocks. */
+    static constexpr std::uint32_t Folga = 16;
     /** All rows are in: gives back what the growth of the row index reserved. */
     void Concluir() { linhas.shrink_to_fit(); }
     void Limpar();
@@ -73,10 +75,35 @@ private:
         std::int32_t texto = -1; /**< number among the texts, -1 for a fixed value */
     };
 
+    /** A value of fixed size, from the message to the row. */
+    struct TFixo {
+        std::uint32_t bytes;
+        std::uint32_t origem;
+        std::uint32_t destino;
+    };
+    struct TTexto {
+        TFisico tipo;
+        bool brancos;
+        std::uint32_t posicao;
+        std::uint32_t posicaoNulo;
+        std::uint32_t largura;
+        size_t coluna;
+        std::uint32_t bytes; /**< in the row being copied */
+    };
+
+    struct TSoltaArena {
+        size_t mapeados; /**< bytes of an arena that is a mapping of its own, else 0 */
+        void operator()(unsigned char *arena) const;
+    };
+    using TArena = std::unique_ptr<unsigned char[], TSoltaArena>;
+
+    static TArena NovaArena(size_t bytes);
     void Distribuir();
-    void MedirTextos(const unsigned char *mensagem, const std::vector<QByteArray> &blobs);
-    void CopiarTexto(unsigned char *linha, size_t i, const unsigned char *mensagem,
-                     const std::vector<QByteArray> &blobs, std::uint32_t &fim) const;
+    size_t MedirTextos(const unsigned char *mensagem, const std::vector<QByteArray> &blobs);
+    void CopiarNulos(unsigned char *linha, const unsigned char *mensagem) const;
+    void CopiarFixos(unsigned char *linha, const unsigned char *mensagem) const;
+    void CopiarTextos(unsigned char *linha, const unsigned char *mensagem,
+                      const std::vector<QByteArray> &blobs) const;
     unsigned char *Alocar(size_t bytes);
     std::uint32_t LerFim(const unsigned char *linha, std::int32_t texto) const;
     QLatin1StringView Guardado(const unsigned char *linha, size_t i) const;
@@ -85,12 +112,14 @@ private:
 
     std::vector<TColunaFisica> colunas;
     std::vector<TLugar> lugares;
-    std::vector<std::uint32_t> comprimentos; /**< of the texts of the row being copied */
+    std::vector<std::uint32_t> nulos; /**< where the null flags stand in the message */
+    std::vector<TFixo> fixos;
+    std::vector<TTexto> textos;
     std::uint32_t inicioDosFins = 0;
     std::uint32_t inicioDosTextos = 0;
     bool finsLargos = false; /**< 32-bit ends, for rows that may exceed 64 KiB */
 
-    std::vector<std::unique_ptr<unsigned char[]>> arenas;
+    std::vector<TArena> arenas;
     size_t livre = 0; /**< bytes left in the last arena */
     unsigned char *proximo = nullptr;
     size_t proximaArena = 0;
