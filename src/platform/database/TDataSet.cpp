@@ -244,6 +244,12 @@ void TDataSet::DefinirColunas(const std::vector<TColuna> &colunas)
 
 TField *TDataSet::CampoDaColuna(const QString &nome)
 {
+    // Opened again with the same columns, as most are: each stands where it stood.
+    if (abertos.size() < campos.size()) {
+        TField *mesmo = campos[abertos.size()].get();
+        if (mesmo->coluna < 0 && mesmo->fieldName == nome && !nome.isEmpty())
+            return mesmo;
+    }
     QString livre = nome.isEmpty() ? QStringLiteral("F_1") : nome;
     const auto emUso = [&](const TField *campo) { return campo->fieldName == livre; };
     for (int n = 1; std::ranges::any_of(abertos, emUso); ++n)
