@@ -56,6 +56,36 @@ QString Literal(double valor, int casas)
     return QString::number(valor, 'f', casas);
 }
 
+/** A query of one table whose text holds a value, which can be prepared ahead for any value. */
+class TQueryAdiantada : public TSQLQuery
+{
+public:
+    explicit TQueryAdiantada(TSQLConnection &na) { SetSQLConnection(&na); }
+    using TSQLQuery::Adiantar;
+    using TSQLQuery::Soltar;
+
+    /** The rows whose column is this value, the text in quotes; what their v40 is. */
+    QString Ler(const QString &coluna, const QString &valor)
+    {
+        Close();
+        SetSQL(Texto(coluna, u'\'' + valor + u'\''));
+        SetValorAdiantado(valor);
+        Open();
+        QStringList textos;
+        for (; !Eof(); Next())
+            textos << FieldByName(QStringLiteral("v40"))->AsString();
+        return textos.join(u' ');
+    }
+    void AdiantarPor(const QString &coluna) { Adiantar(Texto(coluna, QStringLiteral("?"))); }
+
+private:
+    static QString Texto(const QString &coluna, const QString &valor)
+    {
+        return QStringLiteral("select id, v40 from tipos where %1=%2 order by id")
+            .arg(coluna, valor);
+    }
+};
+
 } // namespace
 
 TEST_F(TSQLQueryTest, ColumnsTellTheirTypes)
@@ -497,4 +527,139 @@ TEST_F(TSQLQueryTest, NameLookupsIgnoreLetterCaseButNotQuotedNames)
     EXPECT_EQ(query.Fields(0)->FieldName(), QStringLiteral("Código"));
     EXPECT_EQ(query.FieldByName(QStringLiteral("CÓDIGO"))->AsInteger(), 1);
     EXPECT_EQ(query.FieldByName(QStringLiteral("Outro"))->AsInteger(), 2);
+}
+
+class TSQLQueryAdiantadaTest : public TSQLQueryTest
+{
+protected:
+    TSQLQueryAdiantadaTest() : adiantada(banco.Conexao())
+    {
+        banco.Executar(QStringLiteral("create index ix_c5 on tipos (c5)"));
+        banco.Executar(QStringLiteral("insert into tipos (id, c5, v40, n92) values (1, 'ab', 'um', "
+                                      "1.25)"));
+        banco.Executar(
+            QStringLiteral("insert into tipos (id, c5, v40, n92) values (2, 'ç', 'dois', "
+                           "2)"));
+        banco.Executar(QStringLiteral("insert into tipos (id, c5, v40, n92) values (3, 'ab', "
+                                      "'três', 2)"));
+    }
+    /** Whether another connection may drop the index that a statement of column c5 runs through. */
+    bool IndiceSolto()
+    {
+        TSQLConnection outra;
+        outra.DatabaseName = banco.Arquivo();
+        outra.Open();
+        try {
+            outra.Executar(QStringLiteral("drop index ix_c5"));
+            return true;
+        } catch (const EDatabaseError &) {
+            return false;
+        }
+    }
+
+    TQueryAdiantada adiantada;
+};
+
+TEST_F(TSQLQueryAdiantadaTest, PreparedAheadItReadsTheRowsOfEachValue)
+{
+    for (const bool antes : {false, true}) {
+        if (antes)
+            adiantada.AdiantarPor(QStringLiteral("c5"));
+        EXPECT_EQ(adiantada.Ler(QStringLiteral("c5"), QStringLiteral("ab")),
+                  QStringLiteral("um três"));
+        EXPECT_EQ(adiantada.Ler(QStringLiteral("c5"), QStringLiteral("ç")), QStringLiteral("dois"));
+        EXPECT_EQ(adiantada.Ler(QStringLiteral("c5"), QStringLiteral("não")), QString());
+        EXPECT_TRUE(adiantada.IsEmpty());
+        EXPECT_EQ(adiantada.FieldCount(), 2);
+    }
+    adiantada.AdiantarPor(QStringLiteral("id"));
+    EXPECT_EQ(adiantada.Ler(QStringLiteral("id"), QStringLiteral("3")), QStringLiteral("três"));
+    adiantada.AdiantarPor(QStringLiteral("n92"));
+    EXPECT_EQ(adiantada.Ler(QStringLiteral("n92"), QStringLiteral("1.25")), QStringLiteral("um"));
+    banco.Executar(QStringLiteral("update tipos set v40 = 'outro' where id = 1"));
+    EXPECT_EQ(adiantada.Ler(QStringLiteral("n92"), QStringLiteral("1.25")),
+              QStringLiteral("outro"));
+}
+
+TEST_F(TSQLQueryAdiantadaTest, PreparedAheadItSeesTheRowsOfItsOwnTransaction)
+{
+    adiantada.AdiantarPor(QStringLiteral("c5"));
+    banco.Conexao().EmTransacao([&] {
+        banco.Executar(QStringLiteral("update tipos set v40 = 'novo' where id = 2"));
+        EXPECT_EQ(adiantada.Ler(QStringLiteral("c5"), QStringLiteral("ç")), QStringLiteral("novo"));
+    });
+}
+
+TEST_F(TSQLQueryAdiantadaTest, WhatWasPreparedOnAnEarlierConnectionIsNotUsed)
+{
+    adiantada.AdiantarPor(QStringLiteral("c5"));
+    banco.Conexao().Close();
+    EXPECT_THROW(adiantada.Ler(QStringLiteral("c5"), QStringLiteral("ab")), EDatabaseError);
+    banco.Conexao().Open();
+    EXPECT_EQ(adiantada.Ler(QStringLiteral("c5"), QStringLiteral("ab")), QStringLiteral("um três"));
+}
+
+TEST_F(TSQLQueryAdiantadaTest, WhatIsOfNoUseAnyMoreGivesWayToTheText)
+{
+    adiantada.AdiantarPor(QStringLiteral("c5"));
+    banco.Executar(QStringLiteral("alter index ix_c5 inactive"));
+    EXPECT_EQ(adiantada.Ler(QStringLiteral("c5"), QStringLiteral("ab")), QStringLiteral("um três"));
+    adiantada.AdiantarPor(QStringLiteral("c5"));
+    const QString longo(65, u'x');
+    EXPECT_EQ(adiantada.Ler(QStringLiteral("c5"), longo), QString()) << "too long to be a value";
+    EXPECT_EQ(adiantada.Ler(QStringLiteral("c5"), QStringLiteral("abcdef")), QString())
+        << "longer than the column";
+    EXPECT_THROW(adiantada.Ler(QStringLiteral("c5"), QStringLiteral("日")), EDatabaseError)
+        << "as in a text";
+}
+
+TEST_F(TSQLQueryAdiantadaTest, MistakesComeOutAtTheOpeningOnly)
+{
+    adiantada.AdiantarPor(QStringLiteral("nenhuma"));
+    EXPECT_THROW(adiantada.Ler(QStringLiteral("nenhuma"), QStringLiteral("1")), EDatabaseError);
+    EXPECT_FALSE(adiantada.Active());
+    EXPECT_EQ(adiantada.Ler(QStringLiteral("c5"), QStringLiteral("ç")), QStringLiteral("dois"));
+    TQueryAdiantada semConexao(banco.Conexao());
+    semConexao.SetSQLConnection(nullptr);
+    semConexao.AdiantarPor(QStringLiteral("c5"));
+    EXPECT_THROW(semConexao.Ler(QStringLiteral("c5"), QStringLiteral("ç")), EDatabaseError);
+}
+
+TEST_F(TSQLQueryAdiantadaTest, OnlyWhatIsPreparedHoldsItsIndexAndSoltarLetsItGo)
+{
+    adiantada.AdiantarPor(QStringLiteral("c5"));
+    adiantada.Ler(QStringLiteral("c5"), QStringLiteral("ab"));
+    EXPECT_FALSE(IndiceSolto());
+    adiantada.Soltar();
+    EXPECT_TRUE(IndiceSolto());
+    EXPECT_EQ(adiantada.Ler(QStringLiteral("c5"), QStringLiteral("ab")), QStringLiteral("um três"));
+}
+
+TEST_F(TSQLQueryTest, RowsOfALongListAreWholeFromTheFirstToTheLast)
+{
+    Abrir(QStringLiteral(R"(
+        with recursive n as (select 1 i from rdb$database
+                             union all select i + 1 from n where i < 1000)
+        select a.i * 1000 + b.i as num,
+               iif(mod(b.i, 3) = 0, null,
+                   substring(lpad('', 120, 'ab') from 1 for mod(b.i, 120)) || b.i) as txt,
+               mod(a.i, 2) as par, 'fim' || a.i as fim
+        from n a, n b where a.i <= 120 order by 1)"));
+    ASSERT_EQ(query.RecordCount(), 120000);
+    EXPECT_GT(query.BytesUsados(), 6 * 1024 * 1024) << "large pages have come into it";
+    const auto esperado = [](int b) {
+        return b % 3 == 0 ? QString()
+                          : QStringLiteral("ab").repeated(60).left(b % 120) + QString::number(b);
+    };
+    for (int i = 0; !query.Eof(); query.Next(), ++i) {
+        const int a = i / 1000 + 1;
+        const int b = i % 1000 + 1;
+        ASSERT_EQ(query.Fields(0)->AsInteger(), a * 1000 + b);
+        ASSERT_EQ(query.Fields(1)->AsString(), esperado(b)) << i;
+        ASSERT_EQ(query.Fields(1)->IsNull(), b % 3 == 0);
+        ASSERT_EQ(query.Fields(2)->AsInteger(), a % 2);
+        ASSERT_EQ(query.Fields(3)->AsString(), QStringLiteral("fim%1").arg(a));
+    }
+    query.Close();
+    EXPECT_EQ(query.BytesUsados(), 0);
 }

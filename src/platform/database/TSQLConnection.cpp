@@ -130,6 +130,7 @@ void TSQLConnection::Open()
     }
     d->Soltar();
     d->anexo = d->Anexar(nome, false);
+    ++d->anexacoes;
     d->situacao = TPrivado::TSituacao::Aberta;
 }
 
@@ -163,6 +164,7 @@ void TSQLConnection::CriarBanco(const QString &script)
         emObras += QStringLiteral(".criando-%1").arg(QCoreApplication::applicationPid());
     }
     d->anexo = d->Anexar(emObras, true);
+    ++d->anexacoes;
     d->situacao = TPrivado::TSituacao::Aberta;
     try {
         ExecutarScript(script);

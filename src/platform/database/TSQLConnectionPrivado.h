@@ -46,6 +46,7 @@ struct TSQLConnection::TPrivado {
     TSQLConnection *dono;
     motor::TEstado estado;
     TSituacao situacao = TSituacao::Fechada;
+    int anexacoes = 0; /**< how often it was attached: what was prepared before has gone */
     motor::TRef<Firebird::IAttachment> anexo;
     motor::TRef<Firebird::ITransaction> leitura;
     bool agrupando = false;
@@ -84,9 +85,43 @@ struct TColunaLida {
     int conjunto = 0; /**< character set of a text blob */
 };
 
-/** Runs a select and reads all of its rows; the cursor is closed before it answers. */
-std::vector<TColunaLida> LerSelect(TSQLConnection::TPrivado &conexao,
-                                   Firebird::ITransaction *transacao, const QByteArray &sql,
-                                   TLinhasCompactas &linhas);
+/**
+ * A select, prepared and described, that can be read again and again. Outlives its connection, but
+ * is then of no use; what it throws at a reading leaves it so too.
+ */
+class TSelectPreparado
+{
+public:
+    /** The longest text that a parameter takes. */
+    static constexpr int MaiorValor = 64;
+
+    TSelectPreparado(TSQLConnection::TPrivado &con, Firebird::ITransaction *t,
+                     const QByteArray &sql);
+
+    /** Reads all rows; the cursor is closed before it ends. A select with a parameter takes its
+     * value as a text, which the engine converts. */
+    void Ler(TSQLConnection::TPrivado &con, Firebird::ITransaction *t, TLinhasCompactas &linhas,
+             const QByteArray &valor = {});
+    const std::vector<TColunaLida> &Colunas() const { return colunas; }
+
+private:
+    void Descrever(TSQLConnection::TPrivado &con);
+    TColunaLida DescreverColuna(TSQLConnection::TPrivado &con, unsigned i);
+    void DescreverParametro(TSQLConnection::TPrivado &con);
+    void PorValor(TSQLConnection::TPrivado &con, const QByteArray &valor);
+    void LerBlobs(TSQLConnection::TPrivado &con, Firebird::ITransaction *t,
+                  std::vector<QByteArray> &blobs);
+    void LerBlob(TSQLConnection::TPrivado &con, Firebird::ITransaction *t,
+                 const TColunaLida &coluna, QByteArray &bytes);
+
+    motor::TRef<Firebird::IStatement> comando;
+    motor::TRef<Firebird::IMessageMetadata> formato;
+    motor::TRef<Firebird::IMessageMetadata> formatoDoValor;
+    std::vector<TColunaLida> colunas;
+    std::vector<unsigned char> mensagem;
+    std::vector<unsigned char> parametro;
+    std::vector<char> segmento;
+    bool temBlob = false;
+};
 
 } // namespace ficha

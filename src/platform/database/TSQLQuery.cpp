@@ -2,6 +2,8 @@
 
 #include "platform/database/TSQLConnectionPrivado.h"
 
+#include <optional>
+
 namespace ficha
 {
 
@@ -39,6 +41,28 @@ TFieldType TipoDoCampo(const TColunaLida &coluna)
 
 struct TSQLQuery::TPrivado {
     TLinhasCompactas linhas;
+    /** What was prepared ahead, on which attachment, and the value to read it with. */
+    std::optional<TSelectPreparado> adiantado;
+    int anexacao = 0;
+    QByteArray valor;
+
+    /** Reads with what was prepared ahead. False when nothing was, or when it is of no use any
+     * more: the text is then prepared as always, and what is wrong with it comes out there. */
+    bool LerAdiantado(TSQLConnection::TPrivado &con)
+    {
+        Firebird::ITransaction *transacao = con.ParaLer();
+        if (!adiantado || anexacao != con.anexacoes || valor.isNull())
+            return false;
+        try {
+            adiantado->Ler(con, transacao, linhas, valor);
+            return true;
+        } catch (const EDatabaseError &) {
+            adiantado.reset();
+            if (con.situacao != TSQLConnection::TPrivado::TSituacao::Aberta)
+                throw;
+            return false;
+        }
+    }
 };
 
 TSQLQuery::TSQLQuery(QObject *owner) : TDataSet(owner), d(new TPrivado) {}
@@ -84,6 +108,36 @@ qint64 TSQLQuery::BytesUsados() const
     return d->linhas.BytesUsados();
 }
 
+void TSQLQuery::Adiantar(const QString &comParametro)
+{
+    Soltar();
+    if (!conexao || !conexao->Connected())
+        return;
+    TSQLConnection::TPrivado &con = conexao->Privado();
+    try {
+        d->adiantado.emplace(con, con.ParaLer(), motor::ParaLatin1(comParametro));
+        d->anexacao = con.anexacoes;
+    } catch (const EDatabaseError &) {
+        // The opening finds the same out, and tells it to whom it concerns.
+        d->adiantado.reset();
+    }
+}
+
+void TSQLQuery::SetValorAdiantado(const QString &valor)
+{
+    const QByteArray bytes = valor.toLatin1();
+    // What does not fit, or would be altered, is read by the text.
+    const bool cabe =
+        bytes.size() <= TSelectPreparado::MaiorValor && QString::fromLatin1(bytes) == valor;
+    d->valor = cabe ? bytes : QByteArray();
+}
+
+void TSQLQuery::Soltar()
+{
+    d->adiantado.reset();
+    d->valor = {};
+}
+
 TSQLConnection &TSQLQuery::Conexao() const
 {
     if (!conexao) {
@@ -98,10 +152,19 @@ void TSQLQuery::AbrirLinhas()
     const QByteArray texto = motor::ParaLatin1(sql);
     TSQLConnection::TPrivado &con = Conexao().Privado();
     std::vector<TColuna> colunas;
-    try {
-        for (const TColunaLida &lida : LerSelect(con, con.ParaLer(), texto, d->linhas)) {
+    const auto definir = [&](const TSelectPreparado &select) {
+        for (const TColunaLida &lida : select.Colunas()) {
             colunas.push_back({lida.nome, TipoDoCampo(lida),
                                lida.texto ? int(lida.fisica.largura) : 0, lida.fisica.escala});
+        }
+    };
+    try {
+        if (d->LerAdiantado(con)) {
+            definir(*d->adiantado);
+        } else {
+            TSelectPreparado select(con, con.ParaLer(), texto);
+            select.Ler(con, con.ParaLer(), d->linhas);
+            definir(select);
         }
     } catch (const EDatabaseError &erro) {
         if (con.agrupando)

@@ -18,7 +18,8 @@ class TSQLConnection;
  *
  * Inside TSQLConnection::EmTransacao it reads in that transaction. Blobs are read with their rows.
  * The statement is prepared at each opening, so that changed tables are seen, and nothing of the
- * engine is held while the rows are in memory: they outlive a lost or closed connection.
+ * engine is held while the rows are in memory: they outlive a lost or closed connection. A derived
+ * query that knows that it will be opened in a moment can have that work done ahead.
  */
 class TSQLQuery : public TDataSet
 {
@@ -40,6 +41,17 @@ public:
     qint64 BytesUsados() const;
 
 protected:
+    /**
+     * Prepares ahead what the openings until Soltar will run: the query's own text, but with a "?"
+     * in the place of a value. For a moment only: meanwhile nobody can drop what the statement
+     * names, and a changed table reads as it was. Never raises and never connects again: where it
+     * cannot be done, or is of no use any more at the opening, the text runs as always.
+     */
+    void Adiantar(const QString &comParametro);
+    /** The value of the next openings in the place of the "?": the one that the text has there. */
+    void SetValorAdiantado(const QString &valor);
+    void Soltar();
+
     void AbrirLinhas() override;
     void FecharLinhas() override;
     int ContarLinhas() const override;

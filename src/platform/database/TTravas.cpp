@@ -199,13 +199,13 @@ TDonoDaTrava TTravas::TPrivado::Procurar(const TNomeDaTrava &nome)
     TSQLConnection::TPrivado &con = conexao.Privado();
     TTransacaoCurta transacao(con, TModo::Leitura);
     TLinhasCompactas linhas;
-    LerSelect(
+    TSelectPreparado(
         con, *transacao,
         motor::ParaLatin1(QStringLiteral("select MON$VARIABLE_VALUE from MON$CONTEXT_VARIABLES "
                                          "where MON$VARIABLE_NAME = 'FICHA_TRAVA' and "
                                          "MON$VARIABLE_VALUE starting with ") +
-                          EntreAspas(Identidade(nome) + u'|')),
-        linhas);
+                          EntreAspas(Identidade(nome) + u'|')))
+        .Ler(con, *transacao, linhas);
     if (linhas.Count() == 0)
         return {};
     const QString nota = linhas.Texto(0, 0);
