@@ -23,10 +23,16 @@ public:
     void SetCodigo(const QString &codigo);
     /** Puts the code back that finds nothing. */
     void Esquecer();
+    /** Prepares the query for whatever code its readings of the next moments will have, so that
+     * they need not; until Soltar, which may be called at any time. Never raises. */
+    void Adiantar();
+    void Soltar() { TSQLQuery::Soltar(); }
     /** Reads the rows anew. EDatabaseError, also where the host has no connection. */
     void Ler();
 
 private:
+    void TomarConexao();
+
     QStringList linhas;
     int lugar;
     QString deProjeto;

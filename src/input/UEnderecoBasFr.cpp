@@ -38,6 +38,8 @@ namespace
 
 constexpr int DigitosDoCep = 8;
 constexpr int EsperaDoFoco = 150;
+/** How long what was prepared for a CEP is kept after its last key. */
+constexpr int EsperaDoCep = 5000;
 
 using TItem = TItensDoCombo::TItem;
 
@@ -316,6 +318,7 @@ void TEnderecoBasFr::PegarComponentes()
     };
     NumFocusTimer = novoTimer("NumFocusTimer");
     CEPFocusTimer = novoTimer("CEPFocusTimer");
+    SoltarTimer = novoTimer("SoltarTimer");
     CriarConsultas();
 }
 
@@ -346,6 +349,11 @@ void TEnderecoBasFr::CEPMaskEditEnter(QObject *)
 void TEnderecoBasFr::CEPMaskEditExit(QObject *sender)
 {
     PintarDesselecionada(sender);
+    // After the look-up, whose wait panel lets events in, and out of its time.
+    const auto soltar = qScopeGuard([vivo = QPointer(this)] {
+        if (vivo && vivo->SoltarTimer->isActive())
+            vivo->SoltarTimer->start(0);
+    });
     if (!Cascatear || !TratarSaidaCEP || EstadoDataSet == dsBrowse)
         return;
     const QString cep = SoDig(CEPMaskEdit->GetText());
@@ -601,6 +609,7 @@ void TEnderecoBasFr::LigarEntradas()
     LigarFoco(ComplLabeledEdit, &T::ComplLabeledEditEnter, &T::ComplLabeledEditExit);
     Ligar(NumFocusTimer, &QTimer::timeout, this, [this] { NumFocusTimerTimer(NumFocusTimer); });
     Ligar(CEPFocusTimer, &QTimer::timeout, this, [this] { CEPFocusTimerTimer(CEPFocusTimer); });
+    Ligar(SoltarTimer, &QTimer::timeout, this, [this] { SoltarConsultas(); });
 }
 
 void TEnderecoBasFr::LigarLista(TComboBox *lista, TEvento mudar, TTeclaDescida descer)
@@ -782,6 +791,25 @@ bool TEnderecoBasFr::PodePreencher() const
     return EstadoDataSet == dsEdit || EstadoDataSet == dsInsert;
 }
 
+/** The user is typing a CEP: what its look-up will run is made ready between two keys. */
+void TEnderecoBasFr::AdiantarConsultas()
+{
+    if (!Cascatear || !TratarSaidaCEP || !PodePreencher())
+        return;
+    if (!SoltarTimer->isActive()) {
+        for (TConsultaDoGuia *consulta : {TestaCEPQ, MunQ, BaiQ, LogrQ})
+            consulta->Adiantar();
+    }
+    SoltarTimer->start(EsperaDoCep);
+}
+
+void TEnderecoBasFr::SoltarConsultas()
+{
+    SoltarTimer->stop();
+    for (TConsultaDoGuia *consulta : {TestaCEPQ, MunQ, BaiQ, LogrQ})
+        consulta->Soltar();
+}
+
 /** Looks a CEP up behind the wait panel. False when the guide does not know it, when another
  * look-up replaced this one, or the frame is gone. */
 bool TEnderecoBasFr::LerEnderecoDoCep(const QString &cep, TEndereco &endereco)
@@ -884,10 +912,12 @@ void TEnderecoBasFr::EditadoNoEdit(TCustomEdit *edit)
     const QPointer<TEnderecoBasFr> vivo(this);
     const QString texto = edit->GetText();
     const int cursor = edit->cursorPosition();
-    if (!PedirAlteracao() || !vivo || edit->GetText() == texto)
-        return;
-    edit->SetText(texto);
-    edit->setCursorPosition(cursor);
+    if (PedirAlteracao() && vivo && edit->GetText() != texto) {
+        edit->SetText(texto);
+        edit->setCursorPosition(cursor);
+    }
+    if (vivo && edit == CEPMaskEdit)
+        AdiantarConsultas();
 }
 
 } // namespace ficha

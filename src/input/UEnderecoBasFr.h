@@ -37,6 +37,10 @@ class TMaskEdit;
  * list that was being filled is then empty, its text as it was, and is read again when it is
  * entered. The street list and a CEP are read behind the wait panel, which lets other events in:
  * a later reading replaces an earlier one, and the frame may be gone afterwards.
+ *
+ * While a CEP is typed that will be looked up, the queries of the look-up are prepared, so that
+ * leaving the CEP only runs them. They are let go of when it is left, and some seconds after the
+ * last key.
  */
 class TEnderecoBasFr : public TBasFr
 {
@@ -187,6 +191,8 @@ private:
 
     QString CepDoLogradouro(int logr);
     bool PodePreencher() const;
+    void AdiantarConsultas();
+    void SoltarConsultas();
     bool LerEnderecoDoCep(const QString &cep, TEndereco &endereco);
     bool AceitaEnderecoDoGuia(const TEndereco &guia) const;
     void MostrarEndereco(const TEndereco &guia);
@@ -200,6 +206,8 @@ private:
      * was replaced meanwhile. */
     int leituraLogr = 0;
     int leituraCep = 0;
+    /** Who stops in the middle of a CEP keeps nothing of the database. */
+    QTimer *SoltarTimer = nullptr;
     /** As long as this class's part lives: the inputs lose the focus while the frame dies. */
     std::shared_ptr<const char> vida = std::make_shared<const char>();
 };

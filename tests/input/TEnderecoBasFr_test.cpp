@@ -140,6 +140,21 @@ protected:
         DigitarEm(fr->CEPMaskEdit, cep);
         Tab(fr->CEPMaskEdit);
     }
+    /** Whether somebody else can drop the index of the CEPs, which no prepared look-up then uses.
+     */
+    bool IndiceDosCepsSolto()
+    {
+        TSQLConnection outra;
+        outra.DatabaseName = banco->Arquivo();
+        outra.Open();
+        try {
+            outra.Executar(QStringLiteral("drop index ix_cep_logr_cep"));
+            return true;
+        } catch (const EDatabaseError &) {
+            return false;
+        }
+    }
+    QTimer *SoltarTimer() const { return fr->findChild<QTimer *>(QStringLiteral("SoltarTimer")); }
     /** Until no timer is about to move the focus, however busy the machine is. */
     void EsperarTimers()
     {
@@ -1901,4 +1916,56 @@ TEST_F(TEnderecoBasFrTest, WhateverTheUserDoesTheListsAreThoseOfAPlainReading)
         }
     }
     EXPECT_GT(perguntas.size(), 10);
+}
+
+TEST_F(TEnderecoBasFrTest, TypingACepPreparesItsLookUpAndLeavingItLetsGo)
+{
+    Inserir();
+    DigitarEm(fr->CEPMaskEdit, "573");
+    EXPECT_FALSE(IndiceDosCepsSolto());
+    EXPECT_TRUE(SoltarTimer()->isActive());
+    for (const QChar c : QStringLiteral("03807"))
+        Teclar(fr->CEPMaskEdit, c);
+    Tab(fr->CEPMaskEdit);
+    EXPECT_EQ(Textos(), Arapiraca);
+    EXPECT_EQ(fr->TestaCEPQ->Codigo(), QStringLiteral("'57303807'"));
+    EXPECT_EQ(fr->MunQ->Codigo(), QuotedStr(UF("AL")));
+    Girar();
+    EXPECT_FALSE(SoltarTimer()->isActive());
+    EXPECT_TRUE(IndiceDosCepsSolto());
+    fr->Zerar();
+    EntrarCep("04144070");
+    EXPECT_EQ(fr->LogrComboBox->GetText(), QStringLiteral("RUA PEREIRA ESTÉFANO"))
+        << "and without the index";
+}
+
+TEST_F(TEnderecoBasFrTest, WhoStopsInTheMiddleOfACepHoldsNothingOfTheDatabase)
+{
+    Inserir();
+    DigitarEm(fr->CEPMaskEdit, "573");
+    ASSERT_TRUE(SoltarTimer()->isActive());
+    EXPECT_EQ(SoltarTimer()->interval(), 5000);
+    SoltarTimer()->start(0);
+    Girar();
+    EXPECT_FALSE(SoltarTimer()->isActive());
+    EXPECT_TRUE(IndiceDosCepsSolto());
+    for (const QChar c : QStringLiteral("03807"))
+        Teclar(fr->CEPMaskEdit, c);
+    Tab(fr->CEPMaskEdit);
+    EXPECT_EQ(Textos(), Arapiraca) << "the next key prepares it again";
+}
+
+TEST_F(TEnderecoBasFrTest, ACepThatWillNotBeLookedUpPreparesNothing)
+{
+    Inserir();
+    for (const int estado : {int(dsBrowse), int(dsInactive)}) {
+        fr->PegarState(estado);
+        DigitarEm(fr->CEPMaskEdit, "5");
+        EXPECT_FALSE(SoltarTimer()->isActive());
+    }
+    fr->PegarState(dsInsert);
+    fr->Cascatear = false;
+    DigitarEm(fr->CEPMaskEdit, "5");
+    EXPECT_FALSE(SoltarTimer()->isActive());
+    EXPECT_TRUE(IndiceDosCepsSolto());
 }
