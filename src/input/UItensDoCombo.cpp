@@ -1,5 +1,7 @@
 #include "input/UItensDoCombo.h"
 
+#include <algorithm>
+
 namespace ficha
 {
 
@@ -7,21 +9,14 @@ void TItensDoCombo::Trocar(std::vector<TItem> novos)
 {
     beginResetModel();
     itens = std::move(novos);
-    indexados = false;
     endResetModel();
 }
 
 int TItensDoCombo::IndexOfObjeto(std::intptr_t objeto) const
 {
-    if (!indexados) {
-        primeiros.clear();
-        primeiros.reserve(itens.size());
-        for (std::size_t i = 0; i < itens.size(); ++i)
-            primeiros.try_emplace(itens[i].Objeto, int(i));
-        indexados = true;
-    }
-    const auto achado = primeiros.find(objeto);
-    return achado == primeiros.end() ? -1 : achado->second;
+    const auto achado = std::find_if(itens.begin(), itens.end(),
+                                     [objeto](const TItem &item) { return item.Objeto == objeto; });
+    return achado == itens.end() ? -1 : int(achado - itens.begin());
 }
 
 int TItensDoCombo::rowCount(const QModelIndex &pai) const
@@ -46,7 +41,6 @@ bool TItensDoCombo::setData(const QModelIndex &indice, const QVariant &valor, in
     TItem &item = itens[std::size_t(indice.row())];
     if (papel == Qt::UserRole) {
         item.Objeto = std::intptr_t(valor.toLongLong());
-        indexados = false;
     } else if (papel == Qt::DisplayRole || papel == Qt::EditRole) {
         item.Texto = valor.toString();
     } else {
@@ -63,7 +57,6 @@ bool TItensDoCombo::insertRows(int linha, int quantas, const QModelIndex &pai)
         return false;
     beginInsertRows(pai, linha, linha + quantas - 1);
     itens.insert(itens.begin() + linha, std::size_t(quantas), TItem());
-    indexados = false;
     endInsertRows();
     return true;
 }
@@ -74,7 +67,6 @@ bool TItensDoCombo::removeRows(int linha, int quantas, const QModelIndex &pai)
         return false;
     beginRemoveRows(pai, linha, linha + quantas - 1);
     itens.erase(itens.begin() + linha, itens.begin() + linha + quantas);
-    indexados = false;
     endRemoveRows();
     return true;
 }

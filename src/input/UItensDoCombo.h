@@ -3,15 +3,16 @@
 #include <QAbstractListModel>
 
 #include <cstdint>
-#include <unordered_map>
 #include <vector>
 
 namespace ficha
 {
 
 /**
- * The items of a long drop-down list: texts with an integer each, replaced as a whole in one step,
- * and found by their integer without a walk. Also takes the items that a combo box adds one by one.
+ * The items of a long drop-down list: texts with an integer each, replaced as a whole in one step.
+ * An integer is looked for from the first item on: an index over all of them would cost more than
+ * the one question that most lists are asked. Also takes the items that a combo box adds one by
+ * one.
  */
 class TItensDoCombo : public QAbstractListModel
 {
@@ -39,9 +40,6 @@ private:
     bool Cabe(int linha, int quantas, const QModelIndex &pai, int limite) const;
 
     std::vector<TItem> itens;
-    /** First index by integer, made at the first question after a change. */
-    mutable std::unordered_map<std::intptr_t, int> primeiros;
-    mutable bool indexados = false;
 };
 
 } // namespace ficha

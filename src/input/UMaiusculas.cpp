@@ -26,6 +26,9 @@ public:
 QChar Maiuscula(QChar c)
 {
     constexpr char16_t UltimoLatin1 = 0xFF;
+    // Most characters are these, and the tables of all the world's capitals need not be asked.
+    if (c.unicode() < 0x80)
+        return c >= u'a' && c <= u'z' ? QChar(char16_t(c.unicode() - 0x20)) : c;
     const QChar maiuscula = c.toUpper();
     return c.unicode() <= UltimoLatin1 && maiuscula.unicode() > UltimoLatin1 ? c : maiuscula;
 }
