@@ -2,6 +2,8 @@
 
 #include "bench/Grupos.h"
 
+#include <QLocale>
+
 #include <benchmark/benchmark.h>
 
 #include <map>
@@ -50,6 +52,11 @@ public:
 bool Verificando()
 {
     return verificando;
+}
+
+QString Milhares(qint64 n)
+{
+    return QLocale(QLocale::English).toString(n);
 }
 
 void Medir(const QString &nome, std::function<TMedida()> vez)

@@ -25,6 +25,9 @@ inline int Tamanho(int cheio, int pequeno)
     return Verificando() ? pequeno : cheio;
 }
 
+/** A number as the table has it: "100,000". */
+QString Milhares(qint64 n);
+
 /** The time of f in seconds. */
 template <class F>
 double Cronometrar(F &&f)

@@ -132,7 +132,7 @@ BANCADA_GRUPO(grade)
     const int linhas = bancada::Tamanho(100000, 20000), muitas = 10 * linhas;
     const auto cena = std::make_shared<TCena>(linhas, muitas);
     Comparar(cena->Lista);
-    const QString tamanho = QStringLiteral("%L1 rows of 8 columns").arg(linhas);
+    const QString tamanho = bancada::Milhares(linhas) + " rows of 8 columns";
     const QString nosso = QStringLiteral("string grid filled");
     const QString longa = QStringLiteral("string grid filled, ten times the rows");
     const QString par = QStringLiteral("QTableWidget filled from the same dataset");
@@ -157,7 +157,7 @@ BANCADA_GRUPO(grade)
                      .NaVerificacao = 0.3,
                      .Nota = "what the allocator has handed out, before and after"});
     bancada::Exigir({.Linha = "5",
-                     .Trabalho = QStringLiteral("the same with %L1 rows").arg(muitas),
+                     .Trabalho = "the same with " + bancada::Milhares(muitas) + " rows",
                      .Nosso = {longa, {}},
                      .Par = {nosso, {}},
                      .Limite = 11,

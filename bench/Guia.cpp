@@ -99,7 +99,7 @@ class TPuras
 {
 public:
     explicit TPuras(const QString &arquivo)
-        : anexo(bancada::Anexar(arquivo)), t(Transacao(anexo.get())),
+        : anexo(bancada::Anexar(arquivo)), t(bancada::TransacaoDeLeitura(anexo.get())),
           cep(anexo.get(), t.get(),
               "select cep_logr.* , cep_bai.nome as Bai , cep_mun.nome as Mun , cep_uf.sigla as UF "
               ", cep_uf.uf_cod as UFCod , cep_tipologr.nome as TipoLogr "
@@ -119,6 +119,7 @@ public:
 
     void Procurar(const QString &numero)
     {
+        const motor::TAmbienteNumericoLimpo ambiente;
         if (cep.Ler(numero.toLatin1()) == 0)
             throw std::runtime_error("a CEP that the guide does not have");
         const QByteArray uf(reinterpret_cast<const char *>(cep.Coluna("UFCOD")), 1);
@@ -134,15 +135,6 @@ private:
         int valor = 0;
         std::memcpy(&valor, cep.Coluna(coluna), sizeof valor);
         return valor;
-    }
-
-    static motor::TRef<Firebird::ITransaction> Transacao(Firebird::IAttachment *anexo)
-    {
-        motor::TEstado estado;
-        constexpr std::array<unsigned char, 4> lerConfirmado{
-            isc_tpb_version3, isc_tpb_read, isc_tpb_read_committed, isc_tpb_rec_version};
-        return motor::TRef<Firebird::ITransaction>(anexo->startTransaction(
-            estado.Api(), unsigned(lerConfirmado.size()), lerConfirmado.data()));
     }
 
     motor::TRef<Firebird::IAttachment> anexo;
@@ -262,9 +254,9 @@ BANCADA_GRUPO(guia)
     bancada::Medir(bruto, [cena] { return cena->ComAsPuras(); });
     bancada::Exigir(
         {.Linha = "13a",
-         .Trabalho = QStringLiteral("look up a CEP in a guide of %L1 streets, embedded, until the "
+         .Trabalho = QStringLiteral("look up a CEP in a guide of %1 streets, embedded, until the "
                                     "frame is filled")
-                         .arg(ruas),
+                         .arg(bancada::Milhares(ruas)),
          .Nosso = {nosso, {}},
          .Par = {bruto, {}},
          .Limite = 2,

@@ -85,7 +85,7 @@ BANCADA_GRUPO(leitura)
 {
     const int linhas = bancada::Tamanho(200000, 20000);
     const auto cena = std::make_shared<TCena>(linhas);
-    const QString tamanho = QStringLiteral("%L1 rows").arg(linhas);
+    const QString tamanho = bancada::Milhares(linhas) + " rows";
     const QString nosso = QStringLiteral("dataset read");
     const QString laco = QStringLiteral("bare fetch loop");
     const QString driver = QStringLiteral("Qt's Firebird driver, forward only, every value");
@@ -111,9 +111,7 @@ BANCADA_GRUPO(leitura)
                      .Nosso = ler,
                      .Par = {laco, {}},
                      .Limite = 1.15,
-                     .NaVerificacao = 1.5,
-                     .Nota = "ours may be below the bare loop: it fetches in a clean "
-                             "floating-point environment, which spares the client library work"});
+                     .NaVerificacao = 1.5});
     bancada::Exigir({.Linha = "2",
                      .Trabalho = "the same",
                      .Nosso = ler,

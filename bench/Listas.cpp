@@ -351,7 +351,7 @@ void MedirTeclas(const QStringList &nomes, const QString &tamanho)
 BANCADA_GRUPO(listas)
 {
     const QStringList nomes = bancada::NomesDePessoas(bancada::Tamanho(100000, 10000));
-    const QString tamanho = QStringLiteral("%L1 rows").arg(nomes.size());
+    const QString tamanho = bancada::Milhares(nomes.size()) + " rows";
     // The order of the toolkit's list is that of the default locale.
     QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
     Comparar(nomes);

@@ -291,7 +291,7 @@ BANCADA_GRUPO(manutencao)
     const int linhas = bancada::Tamanho(100000, 10000);
     const auto cena = std::make_shared<TCena>(linhas);
     const auto obrigacao = std::make_shared<TObrigacao>(cena);
-    const QString tamanho = QStringLiteral("%L1 rows").arg(linhas);
+    const QString tamanho = bancada::Milhares(linhas) + " rows";
     const QString abrir = QStringLiteral("maintenance screen opened");
     const QString abrirQt = QStringLiteral("QSqlQueryModel, everything fetched, and QTableView");
     const QString inserir = QStringLiteral("insert confirmed");

@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include <array>
 #include <vector>
 
 namespace bancada
@@ -24,11 +25,22 @@ motor::TRef<Firebird::IAttachment> Anexar(const QString &arquivo)
     return anexo;
 }
 
-int BuscarTudo(Firebird::IAttachment *anexo, const QString &sql)
+motor::TRef<Firebird::ITransaction> TransacaoDeLeitura(Firebird::IAttachment *anexo)
 {
     motor::TEstado estado;
+    constexpr std::array<unsigned char, 5> modo{isc_tpb_version3, isc_tpb_read,
+                                                isc_tpb_read_committed, isc_tpb_rec_version,
+                                                isc_tpb_nowait};
+    return motor::TRef<Firebird::ITransaction>(
+        anexo->startTransaction(estado.Api(), unsigned(modo.size()), modo.data()));
+}
+
+int BuscarTudo(Firebird::IAttachment *anexo, const QString &sql)
+{
+    const motor::TAmbienteNumericoLimpo ambiente;
+    motor::TEstado estado;
     const QByteArray texto = sql.toLatin1();
-    motor::TRef<Firebird::ITransaction> t(anexo->startTransaction(estado.Api(), 0, nullptr));
+    auto t = TransacaoDeLeitura(anexo);
     motor::TRef<Firebird::IStatement> comando(
         anexo->prepare(estado.Api(), t.get(), 0, texto.constData(), 3,
                        Firebird::IStatement::PREPARE_PREFETCH_METADATA));

@@ -2,8 +2,6 @@
 
 #include "platform/database/TSQLConnectionPrivado.h"
 
-#include <cfenv>
-
 namespace ficha
 {
 
@@ -52,27 +50,6 @@ TTipoDoMotor TipoFisico(unsigned tipo)
         return {TFisico::Int32, false};
     }
 }
-
-/**
- * While it lives, the floating-point environment is the default one, without the flags that earlier
- * divisions left. The client library compares it with that at every call and writes it several
- * times over where they differ, which is a tenth of the time of fetching a row.
- */
-class TAmbienteNumericoLimpo
-{
-public:
-    TAmbienteNumericoLimpo()
-    {
-        std::fegetenv(&antes);
-        std::fesetenv(FE_DFL_ENV);
-    }
-    ~TAmbienteNumericoLimpo() { std::fesetenv(&antes); }
-    TAmbienteNumericoLimpo(const TAmbienteNumericoLimpo &) = delete;
-    TAmbienteNumericoLimpo &operator=(const TAmbienteNumericoLimpo &) = delete;
-
-private:
-    std::fenv_t antes{};
-};
 
 /** Text kept in another character set is converted by the engine to the connection's. */
 std::vector<unsigned char> Conversao(const TColunaLida &coluna)
@@ -173,7 +150,7 @@ void TSelectPreparado::Ler(TSQLConnection::TPrivado &con, Firebird::ITransaction
                             valor.isNull() ? nullptr : parametro.data(), formato.get(), 0));
     con.Verificar();
     std::vector<QByteArray> blobs(temBlob ? colunas.size() : 0);
-    const TAmbienteNumericoLimpo ambiente;
+    const motor::TAmbienteNumericoLimpo ambiente;
     while (cursor->fetchNext(api, mensagem.data()) == Firebird::IStatus::RESULT_OK) {
         if (temBlob)
             LerBlobs(con, t, blobs);
