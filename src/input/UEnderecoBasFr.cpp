@@ -318,6 +318,7 @@ void TEnderecoBasFr::PegarComponentes()
     };
     NumFocusTimer = novoTimer("NumFocusTimer");
     CEPFocusTimer = novoTimer("CEPFocusTimer");
+    AdiantarTimer = novoTimer("AdiantarTimer");
     SoltarTimer = novoTimer("SoltarTimer");
     CriarConsultas();
 }
@@ -349,6 +350,7 @@ void TEnderecoBasFr::CEPMaskEditEnter(QObject *)
 void TEnderecoBasFr::CEPMaskEditExit(QObject *sender)
 {
     PintarDesselecionada(sender);
+    AdiantarTimer->stop();
     // After the look-up, whose wait panel lets events in, and out of its time.
     const auto soltar = qScopeGuard([vivo = QPointer(this)] {
         if (vivo && vivo->SoltarTimer->isActive())
@@ -609,6 +611,7 @@ void TEnderecoBasFr::LigarEntradas()
     LigarFoco(ComplLabeledEdit, &T::ComplLabeledEditEnter, &T::ComplLabeledEditExit);
     Ligar(NumFocusTimer, &QTimer::timeout, this, [this] { NumFocusTimerTimer(NumFocusTimer); });
     Ligar(CEPFocusTimer, &QTimer::timeout, this, [this] { CEPFocusTimerTimer(CEPFocusTimer); });
+    Ligar(AdiantarTimer, &QTimer::timeout, this, [this] { AdiantarConsultas(); });
     Ligar(SoltarTimer, &QTimer::timeout, this, [this] { SoltarConsultas(); });
 }
 
@@ -791,20 +794,25 @@ bool TEnderecoBasFr::PodePreencher() const
     return EstadoDataSet == dsEdit || EstadoDataSet == dsInsert;
 }
 
-/** The user is typing a CEP: what its look-up will run is made ready between two keys. */
-void TEnderecoBasFr::AdiantarConsultas()
+/** The user is typing a CEP: what its look-up will run is made ready once the key is painted. */
+void TEnderecoBasFr::CepDigitado()
 {
     if (!Cascatear || !TratarSaidaCEP || !PodePreencher())
         return;
-    if (!SoltarTimer->isActive()) {
-        for (TConsultaDoGuia *consulta : {TestaCEPQ, MunQ, BaiQ, LogrQ})
-            consulta->Adiantar();
-    }
+    if (!SoltarTimer->isActive())
+        AdiantarTimer->start(0);
     SoltarTimer->start(EsperaDoCep);
+}
+
+void TEnderecoBasFr::AdiantarConsultas()
+{
+    for (TConsultaDoGuia *consulta : {TestaCEPQ, MunQ, BaiQ, LogrQ})
+        consulta->Adiantar();
 }
 
 void TEnderecoBasFr::SoltarConsultas()
 {
+    AdiantarTimer->stop();
     SoltarTimer->stop();
     for (TConsultaDoGuia *consulta : {TestaCEPQ, MunQ, BaiQ, LogrQ})
         consulta->Soltar();
@@ -917,7 +925,7 @@ void TEnderecoBasFr::EditadoNoEdit(TCustomEdit *edit)
         edit->setCursorPosition(cursor);
     }
     if (vivo && edit == CEPMaskEdit)
-        AdiantarConsultas();
+        CepDigitado();
 }
 
 } // namespace ficha

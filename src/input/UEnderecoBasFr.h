@@ -191,6 +191,7 @@ private:
 
     QString CepDoLogradouro(int logr);
     bool PodePreencher() const;
+    void CepDigitado();
     void AdiantarConsultas();
     void SoltarConsultas();
     bool LerEnderecoDoCep(const QString &cep, TEndereco &endereco);
@@ -206,6 +207,8 @@ private:
      * was replaced meanwhile. */
     int leituraLogr = 0;
     int leituraCep = 0;
+    /** Preparing waits for the event loop: a key is painted before it. */
+    QTimer *AdiantarTimer = nullptr;
     /** Who stops in the middle of a CEP keeps nothing of the database. */
     QTimer *SoltarTimer = nullptr;
     /** As long as this class's part lives: the inputs lose the focus while the frame dies. */

@@ -1921,7 +1921,13 @@ TEST_F(TEnderecoBasFrTest, WhateverTheUserDoesTheListsAreThoseOfAPlainReading)
 TEST_F(TEnderecoBasFrTest, TypingACepPreparesItsLookUpAndLeavingItLetsGo)
 {
     Inserir();
-    DigitarEm(fr->CEPMaskEdit, "573");
+    const auto *adiantar = fr->findChild<QTimer *>(QStringLiteral("AdiantarTimer"));
+    fr->CEPMaskEdit->setFocus();
+    QTest::keyClick(fr->CEPMaskEdit, Qt::Key_5);
+    EXPECT_TRUE(adiantar->isActive()) << "once the key is painted";
+    Teclar(fr->CEPMaskEdit, u'7');
+    Teclar(fr->CEPMaskEdit, u'3');
+    EXPECT_FALSE(adiantar->isActive());
     EXPECT_FALSE(IndiceDosCepsSolto());
     EXPECT_TRUE(SoltarTimer()->isActive());
     for (const QChar c : QStringLiteral("03807"))
