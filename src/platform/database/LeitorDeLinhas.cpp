@@ -144,13 +144,13 @@ void TSelectPreparado::Ler(TSQLConnection::TPrivado &con, Firebird::ITransaction
         fisicas.push_back(coluna.fisica);
     linhas.Preparar(std::move(fisicas));
     if (!valor.isNull())
-        PorValor(con, valor);
+        PorValor(valor);
+    const motor::TAmbienteNumericoLimpo ambiente;
     motor::TRef<Firebird::IResultSet> cursor(
         comando->openCursor(api, t, valor.isNull() ? nullptr : formatoDoValor.get(),
                             valor.isNull() ? nullptr : parametro.data(), formato.get(), 0));
     con.Verificar();
     std::vector<QByteArray> blobs(temBlob ? colunas.size() : 0);
-    const motor::TAmbienteNumericoLimpo ambiente;
     while (cursor->fetchNext(api, mensagem.data()) == Firebird::IStatus::RESULT_OK) {
         if (temBlob)
             LerBlobs(con, t, blobs);
@@ -163,7 +163,7 @@ void TSelectPreparado::Ler(TSQLConnection::TPrivado &con, Firebird::ITransaction
 }
 
 /** Whatever the type of the parameter is: a text, which the engine converts. */
-void TSelectPreparado::DescreverParametro(TSQLConnection::TPrivado &con)
+void TSelectPreparado::AceitarValor(TSQLConnection::TPrivado &con)
 {
     Firebird::CheckStatusWrapper *api = con.estado.Api();
     const motor::TRef<Firebird::IMetadataBuilder> construtor(
@@ -176,18 +176,17 @@ void TSelectPreparado::DescreverParametro(TSQLConnection::TPrivado &con)
     formatoDoValor.reset(construtor->getMetadata(api));
     con.Verificar();
     parametro.assign(formatoDoValor->getMessageLength(api), 0);
+    posicaoDoValor = formatoDoValor->getOffset(api, 0);
     con.Verificar();
 }
 
-void TSelectPreparado::PorValor(TSQLConnection::TPrivado &con, const QByteArray &valor)
+void TSelectPreparado::PorValor(const QByteArray &valor)
 {
     if (valor.size() > MaiorValor) {
         throw EDatabaseError(TErroBanco::Outro,
                              QStringLiteral("O valor é longo demais para um parâmetro."));
     }
-    if (!formatoDoValor)
-        DescreverParametro(con);
-    unsigned char *onde = parametro.data() + formatoDoValor->getOffset(con.estado.Api(), 0);
+    unsigned char *onde = parametro.data() + posicaoDoValor;
     const auto n = std::uint16_t(valor.size());
     memcpy(onde, &n, sizeof n);
     memcpy(onde + sizeof n, valor.constData(), n);

@@ -98,8 +98,10 @@ public:
     TSelectPreparado(TSQLConnection::TPrivado &con, Firebird::ITransaction *t,
                      const QByteArray &sql);
 
-    /** Reads all rows; the cursor is closed before it ends. A select with a parameter takes its
-     * value as a text, which the engine converts. */
+    /** The select has a parameter: its readings are given a value. */
+    void AceitarValor(TSQLConnection::TPrivado &con);
+    /** Reads all rows; the cursor is closed before it ends. The value of a parameter is a text,
+     * which the engine converts. */
     void Ler(TSQLConnection::TPrivado &con, Firebird::ITransaction *t, TLinhasCompactas &linhas,
              const QByteArray &valor = {});
     const std::vector<TColunaLida> &Colunas() const { return colunas; }
@@ -107,8 +109,7 @@ public:
 private:
     void Descrever(TSQLConnection::TPrivado &con);
     TColunaLida DescreverColuna(TSQLConnection::TPrivado &con, unsigned i);
-    void DescreverParametro(TSQLConnection::TPrivado &con);
-    void PorValor(TSQLConnection::TPrivado &con, const QByteArray &valor);
+    void PorValor(const QByteArray &valor);
     void LerBlobs(TSQLConnection::TPrivado &con, Firebird::ITransaction *t,
                   std::vector<QByteArray> &blobs);
     void LerBlob(TSQLConnection::TPrivado &con, Firebird::ITransaction *t,
@@ -120,6 +121,7 @@ private:
     std::vector<TColunaLida> colunas;
     std::vector<unsigned char> mensagem;
     std::vector<unsigned char> parametro;
+    unsigned posicaoDoValor = 0;
     std::vector<char> segmento;
     bool temBlob = false;
 };

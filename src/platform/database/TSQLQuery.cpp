@@ -116,6 +116,7 @@ void TSQLQuery::Adiantar(const QString &comParametro)
     TSQLConnection::TPrivado &con = conexao->Privado();
     try {
         d->adiantado.emplace(con, con.ParaLer(), motor::ParaLatin1(comParametro));
+        d->adiantado->AceitarValor(con);
         d->anexacao = con.anexacoes;
     } catch (const EDatabaseError &) {
         // The opening finds the same out, and tells it to whom it concerns.
