@@ -73,7 +73,9 @@ public:
         QByteArray bytes;
         QDataStream fluxo(&bytes, QIODevice::WriteOnly);
         Combinar(fluxo);
-        fluxo << Marca << Versao << palavras;
+        fluxo << Marca << Versao << quint32(palavras.size());
+        for (const QString &palavra : palavras)
+            fluxo << palavra;
         fluxo.writeRawData(arvore.constData(), int(arvore.size()));
         return bytes;
     }
@@ -115,15 +117,26 @@ public:
         fluxo >> marca >> versao;
         if (marca != Marca || versao != Versao)
             return false;
-        fluxo >> palavras;
-        return Elemento(raiz) && fluxo.atEnd();
+        return Palavras() && Elemento(raiz) && fluxo.atEnd();
     }
 
 private:
-    /** An element takes as many bytes at least: more of them than that cannot follow. */
+    /** What each takes at least: more of them than there are bytes left for cannot follow. */
     static constexpr qint64 BytesDeElemento = 5 * sizeof(quint32);
     static constexpr qint64 BytesDeAtributo = 2 * sizeof(quint32);
+    static constexpr qint64 BytesDePalavra = sizeof(quint32);
 
+    bool Palavras()
+    {
+        quint32 quantas = 0;
+        fluxo >> quantas;
+        if (quantas * BytesDePalavra > fluxo.device()->bytesAvailable())
+            return false;
+        palavras.resize(quantas);
+        for (QString &palavra : palavras)
+            fluxo >> palavra;
+        return fluxo.status() == QDataStream::Ok;
+    }
     bool Elemento(TElementoUi &el)
     {
         quint32 linha = 0;
