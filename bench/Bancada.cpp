@@ -16,7 +16,6 @@ namespace bancada
 namespace
 {
 
-constexpr int Repeticoes = 9;
 constexpr int RepeticoesDaVerificacao = 5;
 
 bool verificando = false;
@@ -59,7 +58,7 @@ QString Milhares(qint64 n)
     return QLocale(QLocale::English).toString(n);
 }
 
-void Medir(const QString &nome, std::function<TMedida()> vez)
+void Medir(const QString &nome, std::function<TMedida()> vez, int repeticoes)
 {
     auto aquecido = std::make_shared<bool>(false);
     const auto corpo = [vez = std::move(vez), aquecido](benchmark::State &estado) {
@@ -75,7 +74,7 @@ void Medir(const QString &nome, std::function<TMedida()> vez)
     benchmark::RegisterBenchmark(nome.toUtf8().constData(), corpo)
         ->UseManualTime()
         ->Iterations(1)
-        ->Repetitions(verificando ? RepeticoesDaVerificacao : Repeticoes);
+        ->Repetitions(verificando ? RepeticoesDaVerificacao : repeticoes);
 }
 
 void MedirTempo(const QString &nome, std::function<void()> f)

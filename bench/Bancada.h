@@ -42,9 +42,11 @@ double Cronometrar(F &&f)
  * One measurement of the group that is being set up. vez runs once per repetition and answers what
  * it measured (what it prepares is not counted); it has run once before, unmeasured, so that
  * nothing is charged for being the first. What it throws ends the program: a failed measurement is
- * no figure. Keep what the group shares in shared pointers inside the functions.
+ * no figure. Keep what the group shares in shared pointers inside the functions. More repetitions
+ * than the usual ones are for works so short that one of them lies whole in a moment in which the
+ * machine is slow.
  */
-void Medir(const QString &nome, std::function<TMedida()> vez);
+void Medir(const QString &nome, std::function<TMedida()> vez, int repeticoes = 9);
 /** The same where the whole of f is the work. */
 void MedirTempo(const QString &nome, std::function<void()> f);
 
