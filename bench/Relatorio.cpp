@@ -50,6 +50,12 @@ TLinhaDoRelatorio Avaliada(const TExigencia &e, const QVector<TResultado> &resul
     return linha;
 }
 
+/** Such a figure is the machine's as much as ours. */
+bool EhTempoSemPar(const TExigencia &e)
+{
+    return e.Par.Medida.isEmpty() && e.Nosso.Unidade == TUnidade::Tempo;
+}
+
 int Numero(const QString &linha)
 {
     int n = 0;
@@ -100,8 +106,10 @@ QVector<TLinhaDoRelatorio> Avaliar(const QVector<TResultado> &resultados, bool v
 {
     QVector<TLinhaDoRelatorio> linhas;
     for (const TResultado &r : resultados) {
-        for (const TExigencia &e : r.Exigencias)
-            linhas.append(Avaliada(e, resultados, verificar));
+        for (const TExigencia &e : r.Exigencias) {
+            if (!verificar || !EhTempoSemPar(e))
+                linhas.append(Avaliada(e, resultados, verificar));
+        }
     }
     std::stable_sort(linhas.begin(), linhas.end(), [](const auto &a, const auto &b) {
         const QString &x = a.Exigencia.Linha;

@@ -125,6 +125,23 @@ TEST(RelatorioTest, TheShortCheckHasABoundOfItsOwn)
     EXPECT_EQ(Linha(e, {4}, {1}, true).Limite, 5);
 }
 
+TEST(RelatorioTest, TheShortCheckHoldsRatiosAndCountsOnly)
+{
+    TExigencia razao = Exigencia(QStringLiteral("1"));
+    TExigencia tempo = Exigencia(QStringLiteral("2"));
+    tempo.Par = {};
+    TExigencia contagem = tempo;
+    contagem.Linha = QStringLiteral("3");
+    contagem.Nosso.Unidade = TUnidade::Numero;
+    TResultado r;
+    r.Exigencias = {razao, tempo, contagem};
+    QStringList linhas;
+    for (const TLinhaDoRelatorio &l : Avaliar({r}, true))
+        linhas.append(l.Exigencia.Linha);
+    EXPECT_EQ(linhas.join(u' '), QStringLiteral("1 3"));
+    EXPECT_EQ(Avaliar({r}, false).size(), 3);
+}
+
 TEST(RelatorioTest, WhatWasNotMeasuredIsNeverReached)
 {
     for (const TSentido sentido : {TSentido::NoMaximo, TSentido::NoMinimo}) {
