@@ -339,7 +339,6 @@ void MedirTeclas(const QStringList &nomes, const QString &tamanho)
              .Trabalho = trabalho + (filtrar ? "filtering" : "positioning") + ", 99 in 100 within",
              .Nosso = {nosso, QStringLiteral("p99")},
              .Limite = 0.016,
-             .NaVerificacao = 0.040,
              .Nota = filtrar ? QString()
                              : QStringLiteral("from the key to the painted list, "
                                               "texts typed and taken back again")});

@@ -35,7 +35,8 @@ struct TExigencia {
     TSentido Sentido = TSentido::NoMaximo;
     /** Ratio, or with no peer the figure itself in seconds, bytes or pieces. */
     double Limite = 0;
-    /** The same for the short check on small sizes: generous, it only has to show a slide back. */
+    /** The same for the short check on small sizes: generous, it only has to show a slide back.
+     * Without meaning for a time without a peer, which that check leaves out. */
     double NaVerificacao = 0;
     /** One sentence on what is compared, printed below the table; may be empty. */
     QString Nota = {};

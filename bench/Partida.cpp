@@ -84,7 +84,6 @@ void Linha(const std::shared_ptr<TCena> &cena, const char *numero, const QString
                      .Trabalho = trabalho,
                      .Nosso = {medida, {}},
                      .Limite = 0.150,
-                     .NaVerificacao = 0.6,
                      .Nota = nota});
 }
 

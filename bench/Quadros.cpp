@@ -272,8 +272,7 @@ void MedirTeclas(const TPonteiro &cena)
     bancada::Exigir({.Linha = "8l",
                      .Trabalho = "the same, 99 in 100 keys of all those frames",
                      .Nosso = {TeclaNossa, QStringLiteral("p99")},
-                     .Limite = 0.002,
-                     .NaVerificacao = 0.02});
+                     .Limite = 0.002});
     const QString primeira = QStringLiteral("the key that starts an alteration");
     const int alteracoes = bancada::Tamanho(20, 5);
     bancada::Medir(primeira, [=] { return cena->PrimeiraTecla(alteracoes); });
@@ -281,7 +280,6 @@ void MedirTeclas(const TPonteiro &cena)
                      .Trabalho = primeira + QStringLiteral(" in that screen"),
                      .Nosso = {primeira},
                      .Limite = 0.1,
-                     .NaVerificacao = 1,
                      .Nota = "takes the record's lock in the database, reads the list of 100 "
                              "records again and shows what changed"});
 }
@@ -300,8 +298,7 @@ void MedirOcioso(const TPonteiro &cena)
         bancada::Exigir({.Linha = QLatin1String(linha),
                          .Trabalho = medida + QStringLiteral(", a screen with 40 frames"),
                          .Nosso = {medida},
-                         .Limite = 50e-6,
-                         .NaVerificacao = 500e-6});
+                         .Limite = 50e-6});
     bancada::Exigir({.Linha = "9c",
                      .Trabalho = QStringLiteral("wake-ups in %1 s without events").arg(ms / 1000),
                      .Nosso = {parada, QStringLiteral("despertares"), TUnidade::Numero},
